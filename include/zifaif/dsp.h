@@ -1,0 +1,295 @@
+/*
+ * zifaif: signal processing on the signal vector.
+ *
+ * Every numerical function exists twice: dsp... works on dsp_vector (double),
+ * dspf... on dspf_vector (float). Unless a comment says otherwise a function
+ * returns 0 on success and -1 on failure (a bad argument or a failed
+ * allocation), and an output record is sized by the function itself.
+ * Compiles as C99 and as C++.
+ */
+#ifndef ZIFAIF_DSP_H
+#define ZIFAIF_DSP_H
+
+#include <stdio.h>
+
+/* ZF_CALL: the convention of the dsp* entry points (callee pops on 32-bit
+ * Windows). ZF_CDECL: the caller-pops convention of hooks and plain-named
+ * routines. ZF_API: marks an exported entry point. */
+#if defined(_WIN32) && !defined(_WIN64)
+#  define ZF_CALL __stdcall
+#  define ZF_CDECL __cdecl
+#else
+#  define ZF_CALL
+#  define ZF_CDECL
+#endif
+#if defined(_WIN32)
+#  if defined(ZF_BUILDING_LIBRARY)
+#    define ZF_API __declspec(dllexport)
+#  elif defined(ZF_STATIC)
+#    define ZF_API
+#  else
+#    define ZF_API __declspec(dllimport)
+#  endif
+#elif defined(__GNUC__)
+#  define ZF_API __attribute__((visibility("default")))
+#else
+#  define ZF_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ------------------------------------------------------------------------ */
+/* The signal vector                                                         */
+/* ------------------------------------------------------------------------ */
+
+/* A run of equally spaced real samples, or of complex samples stored as
+ * interleaved (real, imaginary) pairs. alloc is the capacity of data in
+ * scalars; alloc <= 0 with non-null data wraps storage the caller owns. */
+typedef struct dsp_vector {
+    double  delta;   /* sample spacing; 1.0 after dsp_init */
+    double *data;    /* the scalars */
+    int     alloc;   /* capacity in scalars, 0 when the record owns nothing */
+    int     points;  /* number of samples */
+    int     complex; /* nonzero: samples are (re, im) pairs */
+    int     type;    /* caller's tag, never interpreted */
+} dsp_vector;
+
+typedef struct dspf_vector {
+    float  delta;
+    float *data;
+    int    alloc;
+    int    points;
+    int    complex;
+    int    type;
+} dspf_vector;
+
+/* Allocation hooks (caller-pops convention). They receive the record with
+ * points and complex already set to the new shape; allocate and reallocate
+ * leave the new block in data (null for failure), free releases data. */
+typedef void (ZF_CDECL *dsp_alloc_hook)(dsp_vector *v);
+typedef void (ZF_CDECL *dsp_realloc_hook)(dsp_vector *v, int old_points, int old_complex);
+typedef void (ZF_CDECL *dsp_free_hook)(dsp_vector *v);
+typedef void (ZF_CDECL *dspf_alloc_hook)(dspf_vector *v);
+typedef void (ZF_CDECL *dspf_realloc_hook)(dspf_vector *v, int old_points, int old_complex);
+typedef void (ZF_CDECL *dspf_free_hook)(dspf_vector *v);
+
+/* ------------------------------------------------------------------------ */
+/* Window kinds and flags                                                    */
+/* ------------------------------------------------------------------------ */
+
+#define DSP_WINDOW_UNIFORM           0
+#define DSP_WINDOW_RECTANGULAR       0
+#define DSP_WINDOW_NONE              0
+#define DSP_WINDOW_P000              0
+#define DSP_WINDOW_BARTLETT          1
+#define DSP_WINDOW_TRIANGULAR        1
+#define DSP_WINDOW_HANN              2
+#define DSP_WINDOW_P110              2
+#define DSP_WINDOW_HAMMING           3
+#define DSP_WINDOW_P100              3
+#define DSP_WINDOW_BLACKMAN          4
+#define DSP_WINDOW_BLACKMAN_HARRIS3  5
+#define DSP_WINDOW_P200              5
+#define DSP_WINDOW_BLACKMAN_HARRIS4  6
+#define DSP_WINDOW_P310              6
+#define DSP_WINDOW_LOWLEAK           6
+#define DSP_WINDOW_GAUSSTOP          7
+#define DSP_WINDOW_P400              7
+#define DSP_WINDOW_FLAT4             8
+#define DSP_WINDOW_P301              8
+#define DSP_WINDOW_FLATTOP           9
+#define DSP_WINDOW_FLAT5             9
+#define DSP_WINDOW_P401              9
+#define DSP_WINDOW_FLAT6            10
+#define DSP_WINDOW_P511             10
+#define DSP_WINDOW_FLAT7            11
+#define DSP_WINDOW_P611             11
+#define DSP_WINDOW_P501             12
+#define DSP_WINDOW_P601             13
+#define DSP_WINDOW_KAISER70         14
+#define DSP_WINDOW_KAISER80         15
+#define DSP_WINDOW_KAISER90         16
+#define DSP_WINDOW_KAISER100        17
+#define DSP_WINDOW_KAISER110        18
+#define DSP_WINDOW_KAISER120        19
+#define DSP_WINDOW_GAUSS60          20
+#define DSP_WINDOW_GAUSS70          21
+#define DSP_WINDOW_GAUSS80          22
+#define DSP_WINDOW_RIEMANN          23
+#define DSP_WINDOW_SINC_LOBE        23
+
+#define DSP_WINFLAG_NORM_MEAN        0  /* mean 1 (coherent gain 1) */
+#define DSP_WINFLAG_NORM_RMS         1  /* RMS 1 */
+#define DSP_WINFLAG_NORM_PEAK        2  /* peak 1, the raw shape */
+#define DSP_WINFLAG_SYMMETRIC        4  /* denominator N-1 instead of N */
+#define DSP_WINFLAG_WIDTH            8  /* span the width argument, not the whole vector */
+#define DSP_WINFLAG_ROTATE          16  /* kind 0 only: rotate by half the length */
+#define DSP_WINFLAG_NO_ROTATE       32  /* other kinds: do not rotate */
+
+/* ------------------------------------------------------------------------ */
+/* FIR design kinds                                                          */
+/* ------------------------------------------------------------------------ */
+
+#define DSP_FIR_BANDPASS   0
+#define DSP_FIR_BANDSTOP   1
+#define DSP_FIR_HIGHPASS   2
+#define DSP_FIR_LOWPASS    3
+#define DSP_FIR_SINH       4
+#define DSP_FIR_DELAY      5
+#define DSP_FIR_DIFF       6
+#define DSP_FIR_GAUSS      7
+#define DSP_FIR_HILBERT    8
+#define DSP_FIR_KAISER     9
+#define DSP_FIR_RAMP      10
+
+/* ------------------------------------------------------------------------ */
+/* Resampler handle records (caller-owned)                                   */
+/* ------------------------------------------------------------------------ */
+
+typedef struct dsph_rsmp_coef {
+    dsp_vector halfband;       /* half response of the 39-tap half-band lowpass */
+    int        halfband_used;  /* 1 once halfband is filled */
+    dsp_vector prefilter;      /* half response of the 23-tap prefilter */
+    int        prefilter_used; /* 1 once prefilter is filled */
+    dsp_vector kernel;         /* kernel table, 13314 points */
+    int        kernel_mode;    /* 1 once the kernel is built */
+    double     ratio;          /* remaining fractional ratio, 1 <= r < 2 */
+    int        octaves;        /* number of octave stages */
+    int        force;          /* nonzero: the fractional stage runs even for r = 1 */
+    int        octave_skip;    /* outputs dropped after the octave stages */
+    int        fraction_skip;  /* outputs dropped after the fractional stage */
+} dsph_rsmp_coef;
+
+typedef struct dsph_rsmp_state {
+    int         stages;            /* octave stages the arrays are sized for */
+    dsp_vector *stage_history;     /* per stage: half-band filter history */
+    dsp_vector *stage_phase;       /* per stage: decimation phase */
+    int         octave_pending;    /* samples still to drop after the octave stages */
+    dsp_vector  prefilter_history;
+    dsp_vector  kernel_history;
+    dsp_vector  halfband_history;
+    dsp_vector  final_phase;
+    int         fraction_pending;  /* samples still to drop after the fractional stage */
+} dsph_rsmp_state;
+
+typedef struct dspfh_rsmp_coef {
+    dspf_vector halfband;
+    int         halfband_used;
+    dspf_vector prefilter;
+    int         prefilter_used;
+    dspf_vector kernel;
+    int         kernel_mode;
+    float       ratio;
+    int         octaves;
+    int         force;
+    int         octave_skip;
+    int         fraction_skip;
+} dspfh_rsmp_coef;
+
+typedef struct dspfh_rsmp_state {
+    int          stages;
+    dspf_vector *stage_history;
+    dspf_vector *stage_phase;
+    int          octave_pending;
+    dspf_vector  prefilter_history;
+    dspf_vector  kernel_history;
+    dspf_vector  halfband_history;
+    dspf_vector  final_phase;
+    int          fraction_pending;
+} dspfh_rsmp_state;
+
+/* ------------------------------------------------------------------------ */
+/* Record and memory                                                         */
+/* ------------------------------------------------------------------------ */
+
+/* delta = 1.0, everything else 0; never frees; returns 0. */
+ZF_API int ZF_CALL dsp_init (dsp_vector  *v);
+ZF_API int ZF_CALL dspf_init(dspf_vector *v);
+/* Frees owned storage (through the free hook when set), then as dsp_init; returns 0. */
+ZF_API int ZF_CALL dsp_destroy (dsp_vector  *v);
+ZF_API int ZF_CALL dspf_destroy(dspf_vector *v);
+/* Capacity for the current points/complex; contents are not kept. 0 or -1. */
+ZF_API int ZF_CALL dsp_alloc (dsp_vector  *v);
+ZF_API int ZF_CALL dspf_alloc(dspf_vector *v);
+/* Capacity for the current shape keeping the contents (old shape given). 0 or -1. */
+ZF_API int ZF_CALL dsp_realloc (dsp_vector  *v, int old_points, int old_complex);
+ZF_API int ZF_CALL dspf_realloc(dspf_vector *v, int old_points, int old_complex);
+/* Appends src to dst; a real dst becomes complex when src is. 0 or -1. */
+ZF_API int ZF_CALL dsp_append (dsp_vector  *dst, const dsp_vector  *src);
+ZF_API int ZF_CALL dspf_append(dspf_vector *dst, const dspf_vector *src);
+/* dst becomes a copy of src. 0 or -1. */
+ZF_API int ZF_CALL dsp_copy (dsp_vector  *dst, const dsp_vector  *src);
+ZF_API int ZF_CALL dspf_copy(dspf_vector *dst, const dspf_vector *src);
+/* Copies the first min(n, src points) samples (n < 0 gives an empty dst). 0 or -1. */
+ZF_API int ZF_CALL dsp_copy_at_most (dsp_vector  *dst, const dsp_vector  *src, int n);
+ZF_API int ZF_CALL dspf_copy_at_most(dspf_vector *dst, const dspf_vector *src, int n);
+/* Copies samples start .. start+count-1 (clamped) of src into dst; dst may be src. 0 or -1. */
+ZF_API int ZF_CALL dspu_subvec (const dsp_vector  *src, dsp_vector  *dst, int start, int count);
+ZF_API int ZF_CALL dspfu_subvec(const dspf_vector *src, dspf_vector *dst, int start, int count);
+/* Float copy of src into dst; -1 when both are the same record. */
+ZF_API int ZF_CALL dspfu_tof(const dspf_vector *src, dspf_vector *dst);
+/* Orders a against b within tol into *result (-1, 0, 1); returns -1 when the lengths differ. */
+ZF_API int ZF_CALL dsp_cmp (const dsp_vector  *a, const dsp_vector  *b, double tol, int *result);
+ZF_API int ZF_CALL dspf_cmp(const dspf_vector *a, const dspf_vector *b, float  tol, int *result);
+/* Install an allocation hook (null restores the standard allocator); the
+ * previous hook is stored in *previous when previous is not null. Return 0. */
+ZF_API int ZF_CALL dsp_lib_alloc   (dsp_alloc_hook    hook, dsp_alloc_hook    *previous);
+ZF_API int ZF_CALL dsp_lib_realloc (dsp_realloc_hook  hook, dsp_realloc_hook  *previous);
+ZF_API int ZF_CALL dsp_lib_free    (dsp_free_hook     hook, dsp_free_hook     *previous);
+ZF_API int ZF_CALL dspf_lib_alloc  (dspf_alloc_hook   hook, dspf_alloc_hook   *previous);
+ZF_API int ZF_CALL dspf_lib_realloc(dspf_realloc_hook hook, dspf_realloc_hook *previous);
+ZF_API int ZF_CALL dspf_lib_free   (dspf_free_hook    hook, dspf_free_hook    *previous);
+/* Does nothing; returns 0. */
+ZF_API int ZF_CALL dsp_lib_init (void);
+ZF_API int ZF_CALL dspf_lib_init(void);
+/* Releases every process-wide cache of the precision; 0, or -1 when a release failed. */
+ZF_API int ZF_CALL dsp_free_internal (void);
+ZF_API int ZF_CALL dspf_free_internal(void);
+/* The library's version number, 205. */
+ZF_API int ZF_CALL dsp_version (void);
+ZF_API int ZF_CALL dspf_version(void);
+/* Floating-point control word entry points; no such register on x86: get and
+ * set return 0, set_runfast does nothing. Caller-pops convention. */
+ZF_API int  ZF_CDECL get_fpscr(void);
+ZF_API int  ZF_CDECL set_fpscr(int word);
+ZF_API void ZF_CDECL set_runfast(void);
+
+/* ------------------------------------------------------------------------ */
+/* Vector files                                                              */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* In-place element-wise arithmetic and conversions                          */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* Binary operations                                                         */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* Rearrangement, editing and calculus                                       */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* Special functions                                                         */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* FFT                                                                       */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* DFT, DCT, Hilbert transform and analytic signal                           */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
+/* Descriptive statistics                                                    */
+/* ------------------------------------------------------------------------ */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* ZIFAIF_DSP_H */
