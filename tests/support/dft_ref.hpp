@@ -16,15 +16,26 @@ using cld = std::complex<long double>;
 inline std::vector<cld> dft_ref(const std::vector<cld>& x, bool inverse) {
     const std::size_t n = x.size();
     const long double pi = 3.141592653589793238462643383279502884L;
-    std::vector<cld> w(n), out(n);
+    // Real arithmetic throughout: complex products of the library runtime take
+    // the slow path for infinities on every call.
+    std::vector<long double> wr(n), wi(n), xr(n), xi(n);
     for (std::size_t m = 0; m < n; ++m) {
         const long double a = 2 * pi * static_cast<long double>(m) / static_cast<long double>(n);
-        w[m] = cld(std::cos(a), inverse ? std::sin(a) : -std::sin(a));
+        wr[m] = std::cos(a);
+        wi[m] = inverse ? std::sin(a) : -std::sin(a);
+        xr[m] = x[m].real();
+        xi[m] = x[m].imag();
     }
+    std::vector<cld> out(n);
     for (std::size_t k = 0; k < n; ++k) {
-        cld s = 0;
-        for (std::size_t i = 0, idx = 0; i < n; ++i, idx = (idx + k) % n) s += x[i] * w[idx];
-        out[k] = inverse ? s : s / static_cast<long double>(n);
+        long double sr = 0, si = 0;
+        for (std::size_t i = 0, idx = 0; i < n; ++i) {
+            sr += xr[i] * wr[idx] - xi[i] * wi[idx];
+            si += xr[i] * wi[idx] + xi[i] * wr[idx];
+            idx += k;
+            if (idx >= n) idx -= n;
+        }
+        out[k] = inverse ? cld(sr, si) : cld(sr, si) / static_cast<long double>(n);
     }
     return out;
 }
