@@ -272,6 +272,31 @@ ZF_API void ZF_CDECL set_runfast(void);
 /* Rearrangement, editing and calculus                                       */
 /* ------------------------------------------------------------------------ */
 
+/* Reverses the order of the samples in place. 0 or -1. */
+ZF_API int ZF_CALL dspi_rev (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rev(dspf_vector *v);
+/* Drops the first n samples (points shrinks); n < 0 changes nothing. 0 or -1. */
+ZF_API int ZF_CALL dspi_shift (dsp_vector  *v, int n);
+ZF_API int ZF_CALL dspfi_shift(dspf_vector *v, int n);
+/* Random permutation of the samples from the library's generator. 0 or -1. */
+ZF_API int ZF_CALL dspi_shuffle (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_shuffle(dspf_vector *v);
+/* Sorts ascending: real by value, complex by squared magnitude, then re, then im. 0 or -1. */
+ZF_API int ZF_CALL dspi_sort (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sort(dspf_vector *v);
+/* Rotates right by points/2 samples (exchanges the halves of an even length). 0 or -1. */
+ZF_API int ZF_CALL dspi_swap_halves (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_swap_halves(dspf_vector *v);
+/* Rotates left by points/2 samples: the inverse of dspi_swap_halves. 0 or -1. */
+ZF_API int ZF_CALL dspi_swap_halves2 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_swap_halves2(dspf_vector *v);
+/* Sets every sample to 0, length and form kept. 0 or -1. */
+ZF_API int ZF_CALL dspi_zero (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_zero(dspf_vector *v);
+/* Grows to n samples with zeros at the end; never shortens. 0 or -1. */
+ZF_API int ZF_CALL dspi_zpad (dsp_vector  *v, int n);
+ZF_API int ZF_CALL dspfi_zpad(dspf_vector *v, int n);
+
 /* ------------------------------------------------------------------------ */
 /* Special functions                                                         */
 /* ------------------------------------------------------------------------ */
