@@ -1,5 +1,6 @@
 // C entry points of the element-wise operations: one line each, double then
 // float, in header order.
+#include "elementwise/binary.hpp"
 #include "elementwise/rearrange.hpp"
 
 extern "C" {
@@ -7,6 +8,30 @@ extern "C" {
 // ---- in-place arithmetic and conversions
 
 // ---- binary operations
+ZF_API int ZF_CALL dspb_add (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::add<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_add(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::add<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_sub (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::sub<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_sub(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::sub<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_mul (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::mul<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_mul(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::mul<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_div (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::div<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_div(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::div<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_conj_mul (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::conj_mul<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_conj_mul(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::conj_mul<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_avg_add (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o, double w) noexcept { return zf::avg_add<double>(a, b, o, w); }
+ZF_API int ZF_CALL dspfb_avg_add(const dspf_vector* a, const dspf_vector* b, dspf_vector* o, float  w) noexcept { return zf::avg_add<float>(a, b, o, w); }
+ZF_API int ZF_CALL dspb_min (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::min<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_min(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::min<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_max (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::max<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_max(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::max<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_inter (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::inter<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_inter(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::inter<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_ritoc (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::ritoc<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_ritoc(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::ritoc<float>(a, b, o); }
+ZF_API int ZF_CALL dspb_pmul (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::pmul<double>(a, b, o); }
+ZF_API int ZF_CALL dspfb_pmul(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::pmul<float>(a, b, o); }
+ZF_API int ZF_CALL dspbs_dot (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  o) noexcept { return zf::dot<double>(a, b, o); }
+ZF_API int ZF_CALL dspfbs_dot(const dspf_vector* a, const dspf_vector* b, dspf_vector* o) noexcept { return zf::dot<float>(a, b, o); }
 
 // ---- rearrangement, editing and calculus
 ZF_API int ZF_CALL dspi_rev (dsp_vector*  v) noexcept { return zf::rev<double>(v); }
