@@ -8,6 +8,7 @@
 
 #include "core/cache.hpp"
 #include "transform/dft.hpp"
+#include "transform/fft.hpp"
 
 namespace zf {
 namespace {
@@ -156,8 +157,9 @@ template <class T> int dct(Vec<T>* v, int flags) noexcept {
     }
     if (n == 1) {  // y[0] = x[0]: only the orthonormal factor √2 and the spacing change
         if (ortho) v->data[0] *= inverse ? Traits<T>::sqrt_half : T(2) * Traits<T>::sqrt_half;
-        v->delta = inverse ? other_domain_delta<T>(T(2) * v->delta, 1)
-                           : other_domain_delta<T>(v->delta, 1) * T(0.5);
+        if (inverse) v->delta *= T(2);
+        invert_delta<T>(*v, 1);
+        if (!inverse) v->delta *= T(0.5);
         return 0;
     }
     return inverse ? dct_inverse<T>(v, ortho) : dct_forward<T>(v, ortho);

@@ -15,8 +15,6 @@
 namespace zf {
 namespace {
 
-bool power_of_two(std::int64_t n) noexcept { return n > 0 && (n & (n - 1)) == 0; }
-
 // cos and sin of 2πp/L for an integer p in [0, L), to about one unit in the
 // last place: the angle is folded into [0, π/4] with integer arithmetic, in
 // units of 1/(8L) of a turn, before sin and cos are taken.
@@ -172,7 +170,8 @@ template <class T> int chirp_dft(Vec<T>* v, int direction) noexcept {
         x[2 * k] = re * cr - im * ci;
         x[2 * k + 1] = re * ci + im * cr;
     }
-    v->delta = other_domain_delta<T>(delta, n);
+    v->delta = delta;
+    invert_delta<T>(*v, n);
     return 0;
 }
 
@@ -184,17 +183,17 @@ template <class T> int dft(Vec<T>* v, int direction) noexcept {
     if (!readable<T>(v)) return -1;
     const int n = v->points;
     if (n < 2) {
-        v->delta = other_domain_delta<T>(v->delta, 1);
+        invert_delta<T>(*v, 1);
         return 0;
     }
-    if (power_of_two(n)) return fft<T>(v, direction);
+    if (log2_exact(n) >= 0) return fft<T>(v, direction);
     return chirp_dft<T>(v, direction);
 }
 
 template <class T> int rdft(Vec<T>* v) noexcept {
     if (!readable<T>(v) || v->complex) return -1;
     const int n = v->points;
-    if (power_of_two(n)) return rfft<T>(v);
+    if (log2_exact(n) >= 0) return rfft<T>(v);
     if (dft<T>(v, 0) != 0) return -1;
     if (n >= 2) v->points = n / 2 + 1;  // the upper bins stay in the storage
     return 0;
@@ -203,7 +202,7 @@ template <class T> int rdft(Vec<T>* v) noexcept {
 template <class T> int irdft(Vec<T>* v, int odd) noexcept {
     if (!readable<T>(v)) return -1;
     const int m = v->points;
-    if (!odd && m >= 2 && power_of_two(2 * static_cast<std::int64_t>(m) - 2)) return irfft<T>(v);
+    if (!odd && m >= 2 && m - 1 <= (1 << 29) && log2_exact(2 * (m - 1)) >= 0) return irfft<T>(v);
     if (orecon<T>(v, odd) != 0) return -1;
     if (dft<T>(v, 1) != 0) return -1;
     keep_real<T>(*v);

@@ -34,13 +34,6 @@ template <class T> int analytic(Vec<T>* v) noexcept;
 // process started; lets the tests see when the state is reused.
 template <class T> int chirp_builds() noexcept;
 
-// The spacing of the other domain after a transform of length n: 1/(n·delta),
-// the precision's saturation value for a zero delta (a NaN stays NaN).
-template <class T> inline T other_domain_delta(T delta, int n) noexcept {
-    if (delta == T(0)) return Traits<T>::huge;
-    return T(1) / (static_cast<T>(n) * delta);
-}
-
 // Keeps the real part of every pair of a complex vector (a real one is left alone).
 template <class T> inline void keep_real(Vec<T>& v) noexcept {
     if (!v.complex) return;

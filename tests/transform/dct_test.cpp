@@ -1,6 +1,7 @@
 #include "support/vectors.hpp"
 
 #include "support/api_dft.hpp"
+#include "support/dct_ref.hpp"
 #include "support/dft_ref.hpp"
 
 using namespace zt;
@@ -13,8 +14,8 @@ TYPED_TEST_SUITE(DctTest, Precisions);
 // Odd, even, power-of-two and chirp-z lengths, and more than 256 twiddles.
 const int kLengths[] = {1, 2, 3, 5, 8, 12, 100, 257, 1024, 1500};
 
-template <class T> std::vector<cld> as_cld(const std::vector<long double>& y) {
-    return std::vector<cld>(y.begin(), y.end());
+template <class T> std::vector<ref::cld> as_cld(const std::vector<long double>& y) {
+    return std::vector<ref::cld>(y.begin(), y.end());
 }
 
 TYPED_TEST(DctTest, ForwardMatchesDirectDct) {
@@ -23,12 +24,12 @@ TYPED_TEST(DctTest, ForwardMatchesDirectDct) {
         for (int flags : {0, 2}) {
             SCOPED_TRACE(::testing::Message() << "n=" << n << " flags=" << flags);
             const std::vector<T> x = random_scalars<T>(n, 40 + n);
-            const auto want = dct_ref(std::vector<long double>(x.begin(), x.end()), flags == 2);
+            const auto want = ref::dct(std::vector<long double>(x.begin(), x.end()), flags == 2);
             Owned<T> v(x, false, T(0.5));
             ASSERT_EQ(api::dct(v.get(), flags), 0);
             EXPECT_FALSE(v->complex);
             ASSERT_EQ(v->points, n);
-            EXPECT_LE(rms_rel_error(v.scalars(), false, as_cld<T>(want)), fft_bound<T>(n));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), as_cld<T>(want)), ref::dft_bound<T>(n));
             EXPECT_NEAR(v->delta, 1.0 / n, tol<T>() / n);  // 1/(2N·0.5)
         }
     }
@@ -45,7 +46,7 @@ TYPED_TEST(DctTest, InverseUndoesForward) {
             ASSERT_EQ(api::dct(v.get(), flags | 1), 0);
             EXPECT_FALSE(v->complex);
             ASSERT_EQ(v->points, n);
-            EXPECT_LE(rms_rel_error(v.scalars(), false, to_cld(x, false)), 2 * fft_bound<T>(n));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
             EXPECT_NEAR(v->delta, 3.0, 3.0 * tol<T>());
         }
     }
@@ -58,10 +59,10 @@ TYPED_TEST(DctTest, InverseOfExactCoefficients) {
     for (int n : {7, 16, 300}) {
         SCOPED_TRACE(n);
         const std::vector<T> x = random_scalars<T>(n, 60 + n);
-        const auto y = dct_ref(std::vector<long double>(x.begin(), x.end()), false);
+        const auto y = ref::dct(std::vector<long double>(x.begin(), x.end()), false);
         Owned<T> v(std::vector<T>(y.begin(), y.end()));
         ASSERT_EQ(api::dct(v.get(), 1), 0);
-        EXPECT_LE(rms_rel_error(v.scalars(), false, to_cld(x, false)), 2 * fft_bound<T>(n));
+        EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
     }
 }
 

@@ -28,17 +28,17 @@ const int kLengths[] = {3, 5, 9, 12, 100, 1000, 4097, 2, 8, 64, 1024};
 // computed once for both precisions. The inverse direction transforms the
 // conjugate input, whose inverse transform is N·conj(X) with X the forward
 // transform of the input.
-const std::vector<cld>& shared_ref(int n, int dir, std::vector<float>& x) {
-    static std::map<std::pair<int, int>, std::vector<cld>> memo;
+const std::vector<ref::cld>& shared_ref(int n, int dir, std::vector<float>& x) {
+    static std::map<std::pair<int, int>, std::vector<ref::cld>> memo;
     x = random_pairs<float>(n, 7 + n);
     auto it = memo.find({n, 0});
-    if (it == memo.end()) it = memo.emplace(std::make_pair(n, 0), dft_ref(to_cld(x, true), false)).first;
+    if (it == memo.end()) it = memo.emplace(std::make_pair(n, 0), ref::forward(ref::from_pairs(x))).first;
     if (dir == 0) return it->second;
     for (std::size_t i = 1; i < x.size(); i += 2) x[i] = -x[i];
     auto inv = memo.find({n, 1});
     if (inv == memo.end()) {
-        std::vector<cld> w = it->second;
-        for (cld& z : w) z = std::conj(z) * static_cast<long double>(n);
+        std::vector<ref::cld> w = it->second;
+        for (ref::cld& z : w) z = std::conj(z) * static_cast<long double>(n);
         inv = memo.emplace(std::make_pair(n, 1), std::move(w)).first;
     }
     return inv->second;
@@ -56,7 +56,7 @@ TYPED_TEST(DftTest, MatchesDirectDftInBothDirections) {
             ASSERT_EQ(api::dft(v.get(), dir), 0);
             EXPECT_EQ(v->points, n);
             EXPECT_TRUE(v->complex);
-            EXPECT_LE(rms_rel_error(v.scalars(), true, want), fft_bound<T>(n));
+            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), want), ref::dft_bound<T>(n));
             EXPECT_NEAR(v->delta, 2.0 / n, 2.0 / n * tol<T>());
         }
     }
@@ -111,7 +111,7 @@ TYPED_TEST(DftTest, ImpulseLinearityAndShift) {
         std::vector<T> comb(2 * n);
         for (int i = 0; i < 2 * n; ++i) comb[i] = a * fx.scalars()[i] + fy.scalars()[i];
         const double scale = 1.0 / std::sqrt(static_cast<double>(n));  // typical bin size
-        EXPECT_TRUE(near_all(fs.scalars(), comb, fft_bound<T>(n) * 4 * scale));
+        EXPECT_TRUE(near_all(fs.scalars(), comb, ref::dft_bound<T>(n) * 4 * scale));
 
         // Shift: x[n - s] has X[k]·e^(-j2πsk/N).
         const int s = 5;
@@ -127,11 +127,11 @@ TYPED_TEST(DftTest, ImpulseLinearityAndShift) {
         const std::vector<T> X = fx.scalars();
         for (int k = 0; k < n; ++k) {
             const long double ang = -2 * kPi * static_cast<long double>((static_cast<long long>(s) * k) % n) / n;
-            const cld r = cld(X[2 * k], X[2 * k + 1]) * std::polar(1.0L, ang);
+            const ref::cld r = ref::cld(X[2 * k], X[2 * k + 1]) * std::polar(1.0L, ang);
             want[2 * k] = static_cast<T>(r.real());
             want[2 * k + 1] = static_cast<T>(r.imag());
         }
-        EXPECT_TRUE(near_all(fsh.scalars(), want, fft_bound<T>(n) * 4 * scale));
+        EXPECT_TRUE(near_all(fsh.scalars(), want, ref::dft_bound<T>(n) * 4 * scale));
     }
 }
 
@@ -143,7 +143,7 @@ TYPED_TEST(DftTest, InverseOfForwardRestoresSamplesAndSpacing) {
         Owned<T> v(x, true, T(0.25));
         ASSERT_EQ(api::dft(v.get(), 0), 0);
         ASSERT_EQ(api::dft(v.get(), 1), 0);
-        EXPECT_LE(rms_rel_error(v.scalars(), true, to_cld(x, true)), 2 * fft_bound<T>(n));
+        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), ref::from_pairs(x)), 2 * ref::dft_bound<T>(n));
         EXPECT_NEAR(v->delta, 0.25, 0.25 * tol<T>());
     }
 }
@@ -192,7 +192,7 @@ TYPED_TEST(DftTest, ChirpStateIsReusedAcrossDirectionsAndRebuiltAfterRelease) {
 
     Owned<T> inv(x, true);
     ASSERT_EQ(api::dft(inv.get(), 1), 0);
-    EXPECT_LE(rms_rel_error(inv.scalars(), true, dft_ref(to_cld(x, true), true)), fft_bound<T>(100));
+    EXPECT_LE(ref::rms_rel_error(ref::from_pairs(inv.scalars()), ref::inverse(ref::from_pairs(x))), ref::dft_bound<T>(100));
     Owned<T> again(x, true);
     ASSERT_EQ(api::dft(again.get(), 0), 0);
     EXPECT_EQ(zf::chirp_builds<T>(), builds);
@@ -227,8 +227,8 @@ TYPED_TEST(DftTest, BorrowedStorageIsCopiedNotResized) {
     ASSERT_EQ(api::dft(&v, 0), 0);
     EXPECT_NE(v.data, x.data());
     EXPECT_EQ(x, keep);
-    EXPECT_LE(rms_rel_error(std::vector<T>(v.data, v.data + 24), true, dft_ref(to_cld(keep, true), false)),
-              fft_bound<T>(12));
+    EXPECT_LE(ref::rms_rel_error(ref::from_pairs(std::vector<T>(v.data, v.data + 24)), ref::forward(ref::from_pairs(keep))),
+              ref::dft_bound<T>(12));
     api::destroy(&v);
 }
 
@@ -242,7 +242,7 @@ TYPED_TEST(DftTest, IrdftInvertsRdft) {
         ASSERT_EQ(api::irdft(v.get(), n % 2), 0);
         EXPECT_FALSE(v->complex);
         ASSERT_EQ(v->points, n);
-        EXPECT_LE(rms_rel_error(v.scalars(), false, to_cld(x, false)), 2 * fft_bound<T>(n));
+        EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
         EXPECT_NEAR(v->delta, 2.0, 2.0 * tol<T>());
     }
 }

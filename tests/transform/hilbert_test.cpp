@@ -30,7 +30,7 @@ TYPED_TEST(HilbertTest, CosineBecomesSineAndStaysReal) {
         ASSERT_EQ(api::hilbert(v.get()), 0);
         EXPECT_FALSE(v->complex);
         ASSERT_EQ(v->points, n);
-        EXPECT_TRUE(near_all(v.scalars(), tone<T>(n, 3, 0.3L, true), 4 * fft_bound<T>(n)));
+        EXPECT_TRUE(near_all(v.scalars(), tone<T>(n, 3, 0.3L, true), 4 * ref::dft_bound<T>(n)));
         EXPECT_NEAR(v->delta, 0.1, 0.1 * tol<T>());
     }
 }
@@ -41,16 +41,16 @@ TYPED_TEST(HilbertTest, ComplexInputMatchesReference) {
     for (int n : {9, 10, 32}) {
         SCOPED_TRACE(n);
         const std::vector<T> x = random_scalars<T>(2 * n, 80 + n);
-        auto X = dft_ref(to_cld(x, true), false);
+        auto X = ref::forward(ref::from_pairs(x));
         for (int k = 0; k < n; ++k) {
             if (k == 0 || 2 * k == n) X[k] = 0;
-            else X[k] *= 2 * k < n ? cld(0, -1) : cld(0, 1);
+            else X[k] *= 2 * k < n ? ref::cld(0, -1) : ref::cld(0, 1);
         }
-        const auto want = dft_ref(X, true);
+        const auto want = ref::inverse(X);
         Owned<T> v(x, true);
         ASSERT_EQ(api::hilbert(v.get()), 0);
         EXPECT_TRUE(v->complex);
-        EXPECT_LE(rms_rel_error(v.scalars(), true, want), 2 * fft_bound<T>(n));
+        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), want), 2 * ref::dft_bound<T>(n));
     }
 }
 
@@ -68,7 +68,7 @@ TYPED_TEST(HilbertTest, AnalyticSignalOfCosineIsComplexExponential) {
             want[2 * i] = c[i];
             want[2 * i + 1] = s[i];
         }
-        EXPECT_TRUE(near_all(v.scalars(), want, 4 * fft_bound<T>(n)));
+        EXPECT_TRUE(near_all(v.scalars(), want, 4 * ref::dft_bound<T>(n)));
     }
 }
 
@@ -88,14 +88,14 @@ TYPED_TEST(HilbertTest, AnalyticSignalSpectrumIsOneSided) {
             re[i] = z[2 * i];
             im[i] = z[2 * i + 1];
         }
-        EXPECT_TRUE(near_all(re, x, 4 * fft_bound<T>(n)));
-        EXPECT_TRUE(near_all(im, h.scalars(), 4 * fft_bound<T>(n)));
+        EXPECT_TRUE(near_all(re, x, 4 * ref::dft_bound<T>(n)));
+        EXPECT_TRUE(near_all(im, h.scalars(), 4 * ref::dft_bound<T>(n)));
 
-        const auto X = dft_ref(to_cld(x, false), false);
-        const auto Z = dft_ref(to_cld(z, true), false);
+        const auto X = ref::forward(ref::from_reals(x));
+        const auto Z = ref::forward(ref::from_pairs(z));
         for (int k = 0; k < n; ++k) {
-            const cld want = k == 0 || 2 * k == n ? X[k] : 2 * k < n ? 2.0L * X[k] : cld(0);
-            EXPECT_NEAR(static_cast<double>(std::abs(Z[k] - want)), 0.0, 8 * fft_bound<T>(n)) << "bin " << k;
+            const ref::cld want = k == 0 || 2 * k == n ? X[k] : 2 * k < n ? 2.0L * X[k] : ref::cld(0);
+            EXPECT_NEAR(static_cast<double>(std::abs(Z[k] - want)), 0.0, 8 * ref::dft_bound<T>(n)) << "bin " << k;
         }
     }
 }
