@@ -184,13 +184,22 @@ std::int64_t read_scalars(std::FILE* f, T* d, std::int64_t n, int size, bool swa
         if (swap) swap_in_place(d, got);
         return static_cast<std::int64_t>(got);
     }
-    unsigned char buf[8192];
+    alignas(8) unsigned char buf[32768];
     const std::int64_t per = static_cast<std::int64_t>(sizeof buf) / size;
     std::int64_t done = 0;
     while (done < n) {
         const std::int64_t want = n - done < per ? n - done : per;
         const std::size_t got = std::fread(buf, static_cast<std::size_t>(size), static_cast<std::size_t>(want), f);
-        for (std::size_t k = 0; k < got; ++k) d[done + static_cast<std::int64_t>(k)] = static_cast<T>(decode(buf + k * size, size, swap));
+        T* out = d + done;
+        if (size == 8) {
+            double* x = reinterpret_cast<double*>(buf);
+            if (swap) swap_in_place(x, got);
+            for (std::size_t k = 0; k < got; ++k) out[k] = static_cast<T>(x[k]);
+        } else {
+            float* x = reinterpret_cast<float*>(buf);
+            if (swap) swap_in_place(x, got);
+            for (std::size_t k = 0; k < got; ++k) out[k] = static_cast<T>(x[k]);
+        }
         done += static_cast<std::int64_t>(got);
         if (static_cast<std::int64_t>(got) < want) break;
     }
