@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <type_traits>
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -35,46 +36,24 @@ const char kComplexKey[] = "#DSP complex = ";
 const char kTypeKey[] = "#DSP type = ";
 const char kDeltaKey[] = "#DSP delta = ";
 
-std::uint32_t bswap32(std::uint32_t x) noexcept {
+std::uint32_t bswap(std::uint32_t x) noexcept {
     return (x >> 24) | ((x >> 8) & 0xFF00u) | ((x << 8) & 0xFF0000u) | (x << 24);
 }
-std::uint64_t bswap64(std::uint64_t x) noexcept {
-    return (static_cast<std::uint64_t>(bswap32(static_cast<std::uint32_t>(x))) << 32) |
-           bswap32(static_cast<std::uint32_t>(x >> 32));
+std::uint64_t bswap(std::uint64_t x) noexcept {
+    return (static_cast<std::uint64_t>(bswap(static_cast<std::uint32_t>(x))) << 32) |
+           bswap(static_cast<std::uint32_t>(x >> 32));
 }
 
-// A scalar of `size` bytes (4 or 8) at p, byte-reversed when swap is set.
-double decode(const unsigned char* p, int size, bool swap) noexcept {
-    if (size == 8) {
-        std::uint64_t bits;
-        std::memcpy(&bits, p, 8);
-        if (swap) bits = bswap64(bits);
-        double x;
-        std::memcpy(&x, &bits, 8);
-        return x;
-    }
-    std::uint32_t bits;
-    std::memcpy(&bits, p, 4);
-    if (swap) bits = bswap32(bits);
-    float x;
-    std::memcpy(&x, &bits, 4);
-    return x;
-}
-
-void swap_in_place(double* d, std::size_t n) noexcept {
+// Reverses the bytes of n scalars in memory (never through a floating-point
+// register, which could change a reversed pattern that reads as a NaN).
+template <class Real> void swap_in_place(Real* d, std::size_t n) noexcept {
+    using Bits = std::conditional_t<sizeof(Real) == 8, std::uint64_t, std::uint32_t>;
+    static_assert(sizeof(Bits) == sizeof(Real), "4- or 8-byte scalars");
     for (std::size_t i = 0; i < n; ++i) {
-        std::uint64_t bits;
-        std::memcpy(&bits, d + i, 8);
-        bits = bswap64(bits);
-        std::memcpy(d + i, &bits, 8);
-    }
-}
-void swap_in_place(float* d, std::size_t n) noexcept {
-    for (std::size_t i = 0; i < n; ++i) {
-        std::uint32_t bits;
-        std::memcpy(&bits, d + i, 4);
-        bits = bswap32(bits);
-        std::memcpy(d + i, &bits, 4);
+        Bits bits;
+        std::memcpy(&bits, d + i, sizeof bits);
+        bits = bswap(bits);
+        std::memcpy(d + i, &bits, sizeof bits);
     }
 }
 
@@ -174,36 +153,35 @@ long long bytes_left(std::FILE* f) noexcept {
     return end >= pos ? static_cast<long long>(end) - pos : -1;
 }
 
+// Reads up to n scalars stored as Stored (the other precision) into d,
+// converting them block by block. Returns how many were read whole.
+template <class Stored, class T>
+std::int64_t read_converted(std::FILE* f, T* d, std::int64_t n, bool swap) noexcept {
+    Stored buf[32768 / sizeof(Stored)];
+    const std::int64_t per = static_cast<std::int64_t>(sizeof buf / sizeof buf[0]);
+    std::int64_t done = 0;
+    while (done < n) {
+        const std::int64_t want = n - done < per ? n - done : per;
+        const std::size_t got = std::fread(buf, sizeof(Stored), static_cast<std::size_t>(want), f);
+        if (swap) swap_in_place(buf, got);
+        T* out = d + done;
+        for (std::size_t k = 0; k < got; ++k) out[k] = static_cast<T>(buf[k]);
+        done += static_cast<std::int64_t>(got);
+        if (static_cast<std::int64_t>(got) < want) break;
+    }
+    return done;
+}
+
 // Reads n stored scalars of `size` bytes into d, converting them to T.
 // Returns how many scalars were read whole.
 template <class T>
 std::int64_t read_scalars(std::FILE* f, T* d, std::int64_t n, int size, bool swap) noexcept {
     if (n <= 0) return 0;
-    if (size == static_cast<int>(sizeof(T))) {
-        const std::size_t got = std::fread(d, sizeof(T), static_cast<std::size_t>(n), f);
-        if (swap) swap_in_place(d, got);
-        return static_cast<std::int64_t>(got);
-    }
-    alignas(8) unsigned char buf[32768];
-    const std::int64_t per = static_cast<std::int64_t>(sizeof buf) / size;
-    std::int64_t done = 0;
-    while (done < n) {
-        const std::int64_t want = n - done < per ? n - done : per;
-        const std::size_t got = std::fread(buf, static_cast<std::size_t>(size), static_cast<std::size_t>(want), f);
-        T* out = d + done;
-        if (size == 8) {
-            double* x = reinterpret_cast<double*>(buf);
-            if (swap) swap_in_place(x, got);
-            for (std::size_t k = 0; k < got; ++k) out[k] = static_cast<T>(x[k]);
-        } else {
-            float* x = reinterpret_cast<float*>(buf);
-            if (swap) swap_in_place(x, got);
-            for (std::size_t k = 0; k < got; ++k) out[k] = static_cast<T>(x[k]);
-        }
-        done += static_cast<std::int64_t>(got);
-        if (static_cast<std::int64_t>(got) < want) break;
-    }
-    return done;
+    if (size != static_cast<int>(sizeof(T)))
+        return size == 8 ? read_converted<double, T>(f, d, n, swap) : read_converted<float, T>(f, d, n, swap);
+    const std::size_t got = std::fread(d, sizeof(T), static_cast<std::size_t>(n), f);
+    if (swap) swap_in_place(d, got);
+    return static_cast<std::int64_t>(got);
 }
 
 // Reads `points` samples into v, which takes the shape (points, complex).
@@ -256,7 +234,7 @@ int read_samples(Vec<T>& v, std::FILE* f, int points, int complex, int size, boo
 
 bool read_word(std::FILE* f, std::uint32_t& w, bool swap) noexcept {
     if (std::fread(&w, 4, 1, f) != 1) return false;
-    if (swap) w = bswap32(w);
+    if (swap) w = bswap(w);
     return true;
 }
 
@@ -266,11 +244,11 @@ template <class T> int read_binary(Vec<T>& v, std::FILE* f) noexcept {
     bool swap = false, sized = false;
     int size = 0;
     if (magic == kMagicSized) sized = true;
-    else if (magic == bswap32(kMagicSized)) sized = swap = true;
+    else if (magic == bswap(kMagicSized)) sized = swap = true;
     else if (magic == kMagicDouble) size = 8;
-    else if (magic == bswap32(kMagicDouble)) size = 8, swap = true;
+    else if (magic == bswap(kMagicDouble)) size = 8, swap = true;
     else if (magic == kMagicFloat) size = 4;
-    else if (magic == bswap32(kMagicFloat)) size = 4, swap = true;
+    else if (magic == bswap(kMagicFloat)) size = 4, swap = true;
     else return -1;
     if (sized) {
         std::uint32_t word;
@@ -279,13 +257,13 @@ template <class T> int read_binary(Vec<T>& v, std::FILE* f) noexcept {
         if (size != 4 && size != 8) return -1;
     }
     std::uint32_t points_word, complex_word;
-    unsigned char delta_bytes[8];
+    T delta;
     if (!read_word(f, points_word, swap) || !read_word(f, complex_word, swap)) return -1;
-    if (std::fread(delta_bytes, static_cast<std::size_t>(size), 1, f) != 1) return -1;
+    if (read_scalars<T>(f, &delta, 1, size, swap) != 1) return -1;
     std::int32_t points;
     std::memcpy(&points, &points_word, 4);
     if (points < 0) points = 0;
-    v.delta = static_cast<T>(decode(delta_bytes, size, swap));
+    v.delta = delta;
     return read_samples<T>(v, f, points, complex_word != 0 ? 1 : 0, size, swap) == 0 ? 1 : -1;
 }
 
