@@ -92,7 +92,7 @@ template <class T> int square(Vec<T>* v) noexcept {
             im = T(2) * a * b;
         });
     } else {
-        map_scalars(d, d, scalars<T>(*v), saturated_square<T>);
+        map_scalars(d, d, scalars<T>(*v), [](T x) { return saturated_square(x); });
     }
     return 0;
 }
@@ -100,8 +100,8 @@ template <class T> int square(Vec<T>* v) noexcept {
 template <class T> int sqrt(Vec<T>* v) noexcept {
     if (!readable<T>(v)) return -1;
     T* d = v->data;
-    if (v->complex) map_pairs(d, d, static_cast<std::size_t>(v->points), complex_sqrt<T>);
-    else map_scalars(d, d, scalars<T>(*v), real_sqrt<T>);
+    if (v->complex) map_pairs(d, d, static_cast<std::size_t>(v->points), [](T& re, T& im) { complex_sqrt(re, im); });
+    else map_scalars(d, d, scalars<T>(*v), [](T x) { return real_sqrt(x); });
     return 0;
 }
 
@@ -110,8 +110,8 @@ template <class T> int sqrt(const Vec<T>* src, Vec<T>* dst) noexcept {
     if (!readable<T>(src)) return -1;
     const bool complex = src->complex != 0;
     if (size_output<T>(src, dst, complex ? 1 : 0, &in) != 0) return -1;
-    if (complex) map_pairs(in, dst->data, static_cast<std::size_t>(dst->points), complex_sqrt<T>);
-    else map_scalars(in, dst->data, scalars<T>(*dst), real_sqrt<T>);
+    if (complex) map_pairs(in, dst->data, static_cast<std::size_t>(dst->points), [](T& re, T& im) { complex_sqrt(re, im); });
+    else map_scalars(in, dst->data, scalars<T>(*dst), [](T x) { return real_sqrt(x); });
     return 0;
 }
 

@@ -72,15 +72,15 @@ template <class T> int imag(Vec<T>* v) noexcept {
     return to_real<T>(v, [](T) { return T(0); }, [](T, T im) { return im; });
 }
 
-template <class T> int mag(Vec<T>* v) noexcept { return to_real<T>(v, real_mag<T>, pair_mag<T>); }
-template <class T> int magsq(Vec<T>* v) noexcept { return to_real<T>(v, saturated_square<T>, saturated_norm<T>); }
-template <class T> int phase(Vec<T>* v) noexcept { return to_real<T>(v, real_phase<T>, pair_phase<T>); }
+template <class T> int mag(Vec<T>* v) noexcept { return to_real<T>(v, [](T x) { return real_mag(x); }, [](T re, T im) { return pair_mag(re, im); }); }
+template <class T> int magsq(Vec<T>* v) noexcept { return to_real<T>(v, [](T x) { return saturated_square(x); }, [](T re, T im) { return saturated_norm(re, im); }); }
+template <class T> int phase(Vec<T>* v) noexcept { return to_real<T>(v, [](T x) { return real_phase(x); }, [](T re, T im) { return pair_phase(re, im); }); }
 
 template <class T> int mag(const Vec<T>* src, Vec<T>* dst) noexcept {
-    return real_into<T>(src, dst, real_mag<T>, pair_mag<T>);
+    return real_into<T>(src, dst, [](T x) { return real_mag(x); }, [](T re, T im) { return pair_mag(re, im); });
 }
 template <class T> int magsq(const Vec<T>* src, Vec<T>* dst) noexcept {
-    return real_into<T>(src, dst, saturated_square<T>, saturated_norm<T>);
+    return real_into<T>(src, dst, [](T x) { return saturated_square(x); }, [](T re, T im) { return saturated_norm(re, im); });
 }
 
 template int rtoc<double>(Vec<double>*) noexcept;

@@ -62,7 +62,7 @@ template <class T> int exp(Vec<T>* v) noexcept {
             im = m * std::sin(im);
         });
     } else {
-        map_scalars(d, d, scalars<T>(*v), guarded_exp<T>);
+        map_scalars(d, d, scalars<T>(*v), [](T x) { return guarded_exp(x); });
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 // destination of a dspu_ operation.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 
 #include "core/vector.hpp"
@@ -20,12 +21,16 @@ template <class T> inline T clamp_huge(T x) noexcept {
 
 // x * x, or huge when x lies outside [-huge, huge] (and for NaN).
 template <class T> inline T saturated_square(T x) noexcept {
-    return (x >= -Traits<T>::huge && x <= Traits<T>::huge) ? x * x : Traits<T>::huge;
+    return std::fabs(x) <= Traits<T>::huge ? x * x : Traits<T>::huge;
 }
 
 // re^2 + im^2, or huge when a part lies outside [-huge, huge].
+// Written as two selects, not one condition with ||, so that loops over it vectorise.
 template <class T> inline T saturated_norm(T re, T im) noexcept {
-    return (beyond(re) || beyond(im)) ? Traits<T>::huge : re * re + im * im;
+    const T huge = Traits<T>::huge;
+    const T s = re * re + im * im;
+    const T t = std::fabs(re) > huge ? huge : s;
+    return std::fabs(im) > huge ? huge : t;
 }
 
 // Scalars of the record's current shape, as a loop count.
@@ -50,25 +55,15 @@ template <class T, class F> inline void map_pairs(const T* in, T* out, std::size
 }
 
 // Pair k of in becomes scalar k of out through f(re, im). in may be out:
-// walking forward, scalar k is written only after pairs 0..k have been read.
-// Blocks of eight are read whole before any is written, so the compiler can
-// vectorise the block even when in and out are one array.
+// walking forward, scalar k is written after pairs 0..k have been read, and a
+// vector of W results is written only after its W pairs were loaded, so the
+// loop carries no dependence that forbids vectorising it (which the compiler
+// cannot prove by itself when in and out are one array).
 template <class T, class F> inline void pack_pairs(const T* in, T* out, std::size_t n, F f) noexcept {
-    constexpr std::size_t block = 8;
-    std::size_t k = 0;
-    for (; k + block <= n; k += block) {
-        T re[block], im[block], r[block];
-        for (std::size_t j = 0; j < block; ++j) {
-            re[j] = in[2 * (k + j)];
-            im[j] = in[2 * (k + j) + 1];
-        }
-        for (std::size_t j = 0; j < block; ++j) r[j] = f(re[j], im[j]);
-        for (std::size_t j = 0; j < block; ++j) out[k + j] = r[j];
-    }
-    for (; k < n; ++k) {
-        const T re = in[2 * k], im = in[2 * k + 1];
-        out[k] = f(re, im);
-    }
+#if defined(__GNUC__)
+#pragma GCC ivdep
+#endif
+    for (std::size_t k = 0; k < n; ++k) out[k] = f(in[2 * k], in[2 * k + 1]);
 }
 
 // An in-place operation defined on real numbers only: a complex vector is
