@@ -90,7 +90,10 @@ template <class T> int sort(Vec<T>* v) noexcept {
     const int n = v->points;
     if (n < 2) return 0;
     if (!v->complex) {
-        std::sort(v->data, v->data + n, [](T a, T b) { return order(a, b) < 0; });
+        // NaN goes last; the numbers before it sort by plain comparison.
+        T* d = v->data;
+        T* nans = std::partition(d, d + n, [](T x) { return !std::isnan(x); });
+        std::sort(d, nans);
         return 0;
     }
     Pair<T>* p = reinterpret_cast<Pair<T>*>(v->data);
