@@ -268,9 +268,74 @@ ZF_API void ZF_CDECL set_runfast(void);
 /* Binary operations                                                         */
 /* ------------------------------------------------------------------------ */
 
+/* Binary operations write out sized by themselves: points of the inputs (which
+ * must be equal unless stated), the mean spacing, complex when either input
+ * is (a real operand counts as imaginary part 0). out may be a or b. */
+/* a + b; unequal lengths zero-pad the shorter operand (output has the longer length). 0 or -1. */
+ZF_API int ZF_CALL dspb_add (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_add(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a - b; unequal lengths as dspb_add. 0 or -1. */
+ZF_API int ZF_CALL dspb_sub (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_sub(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a * b sample by sample (complex product); equal lengths. 0 or -1. */
+ZF_API int ZF_CALL dspb_mul (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_mul(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a / b; a zero divisor gives 1e100 (1e15 float) without sign, or 0 for a zero dividend. 0 or -1. */
+ZF_API int ZF_CALL dspb_div (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_div(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a * conj(b); a real b gives dspb_mul. 0 or -1. */
+ZF_API int ZF_CALL dspb_conj_mul (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_conj_mul(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* Exponential-average update b + w (a - b) per scalar: a the new value, b the average. 0 or -1. */
+ZF_API int ZF_CALL dspb_avg_add (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, double w);
+ZF_API int ZF_CALL dspfb_avg_add(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, float  w);
+/* The smaller sample (complex: smaller squared magnitude; b wins ties). 0 or -1. */
+ZF_API int ZF_CALL dspb_min (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_min(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* The larger sample (complex: larger squared magnitude; b wins ties). 0 or -1. */
+ZF_API int ZF_CALL dspb_max (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_max(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* Interleaves a0, b0, a1, b1, ...: 2 * points samples at half the mean spacing. 0 or -1. */
+ZF_API int ZF_CALL dspb_inter (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_inter(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* Complex out = (re_k, im_k) from two real records of equal length. 0 or -1. */
+ZF_API int ZF_CALL dspb_ritoc (const dsp_vector  *re, const dsp_vector  *im, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_ritoc(const dspf_vector *re, const dspf_vector *im, dspf_vector *out);
+/* Polynomial product: a.points + b.points - 1 coefficients (0 when either is empty). 0 or -1. */
+ZF_API int ZF_CALL dspb_pmul (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_pmul(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* out becomes one sample holding sum a_k * b_k (no conjugation), complex when either is; equal lengths; delta kept. 0 or -1. */
+ZF_API int ZF_CALL dspbs_dot (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfbs_dot(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+
 /* ------------------------------------------------------------------------ */
 /* Rearrangement, editing and calculus                                       */
 /* ------------------------------------------------------------------------ */
+
+/* Reverses the order of the samples in place. 0 or -1. */
+ZF_API int ZF_CALL dspi_rev (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rev(dspf_vector *v);
+/* Drops the first n samples (points shrinks); n < 0 changes nothing. 0 or -1. */
+ZF_API int ZF_CALL dspi_shift (dsp_vector  *v, int n);
+ZF_API int ZF_CALL dspfi_shift(dspf_vector *v, int n);
+/* Random permutation of the samples from the library's generator. 0 or -1. */
+ZF_API int ZF_CALL dspi_shuffle (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_shuffle(dspf_vector *v);
+/* Sorts ascending: real by value, complex by squared magnitude, then re, then im. 0 or -1. */
+ZF_API int ZF_CALL dspi_sort (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sort(dspf_vector *v);
+/* Rotates right by points/2 samples (exchanges the halves of an even length). 0 or -1. */
+ZF_API int ZF_CALL dspi_swap_halves (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_swap_halves(dspf_vector *v);
+/* Rotates left by points/2 samples: the inverse of dspi_swap_halves. 0 or -1. */
+ZF_API int ZF_CALL dspi_swap_halves2 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_swap_halves2(dspf_vector *v);
+/* Sets every sample to 0, length and form kept. 0 or -1. */
+ZF_API int ZF_CALL dspi_zero (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_zero(dspf_vector *v);
+/* Grows to n samples with zeros at the end; never shortens. 0 or -1. */
+ZF_API int ZF_CALL dspi_zpad (dsp_vector  *v, int n);
+ZF_API int ZF_CALL dspfi_zpad(dspf_vector *v, int n);
 
 /* ------------------------------------------------------------------------ */
 /* Special functions                                                         */
