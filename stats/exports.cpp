@@ -14,6 +14,8 @@ ZF_API int ZF_CALL dsps_min (const dsp_vector*  in, dsp_vector*  out) noexcept {
 ZF_API int ZF_CALL dspfs_min(const dspf_vector* in, dspf_vector* out) noexcept { return zf::min<float>(in, out); }
 ZF_API int ZF_CALL dsps_max (const dsp_vector*  in, dsp_vector*  out) noexcept { return zf::max<double>(in, out); }
 ZF_API int ZF_CALL dspfs_max(const dspf_vector* in, dspf_vector* out) noexcept { return zf::max<float>(in, out); }
+ZF_API int ZF_CALL dsps_median (const dsp_vector*  in, dsp_vector*  out) noexcept { return zf::median<double>(in, out); }
+ZF_API int ZF_CALL dspfs_median(const dspf_vector* in, dspf_vector* out) noexcept { return zf::median<float>(in, out); }
 ZF_API int ZF_CALL dsps_magsq_sum (const dsp_vector*  in, dsp_vector*  out) noexcept { return zf::magsq_sum<double>(in, out); }
 ZF_API int ZF_CALL dspfs_magsq_sum(const dspf_vector* in, dspf_vector* out) noexcept { return zf::magsq_sum<float>(in, out); }
 ZF_API int ZF_CALL dsps_rms (const dsp_vector*  in, dsp_vector*  out) noexcept { return zf::rms<double>(in, out); }

@@ -367,6 +367,10 @@ ZF_API int ZF_CALL dspfs_min(const dspf_vector *in, dspf_vector *out);
 /* Largest sample (complex: of largest |z|^2); one point, complex as the input. */
 ZF_API int ZF_CALL dsps_max (const dsp_vector  *in, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_max(const dspf_vector *in, dspf_vector *out);
+/* Middle of the sorted samples (mean of the two middle ones for an even count; complex
+ * samples in the order of dspi_sort); one point, complex as the input. */
+ZF_API int ZF_CALL dsps_median (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_median(const dspf_vector *in, dspf_vector *out);
 /* Sum of x^2 or re^2 + im^2, each term at most the guard; one real point. */
 ZF_API int ZF_CALL dsps_magsq_sum (const dsp_vector  *in, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_magsq_sum(const dspf_vector *in, dspf_vector *out);

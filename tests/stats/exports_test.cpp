@@ -30,6 +30,7 @@ template <class T> std::vector<Stat<T>> all_stats() {
         {"mean", api::mean, zr::mean<T>, true, true, false, 0, false},
         {"min", api::min, zr::min<T>, true, true, false, 0, false},
         {"max", api::max, zr::max<T>, true, true, false, 0, false},
+        {"median", api::median, zr::median<T>, true, true, false, 0, false},
         {"magsq_sum", api::magsq_sum, zr::magsq_sum<T>, false, true, false, 0, false},
         {"rms", api::rms, zr::rms<T>, false, true, false, 0, false},
         {"pop_var", api::pop_var, zr::pop_var<T>, false, true, false, 0, false},

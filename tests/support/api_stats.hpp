@@ -12,6 +12,8 @@ inline int min(const dsp_vector* in, dsp_vector* out) { return dsps_min(in, out)
 inline int min(const dspf_vector* in, dspf_vector* out) { return dspfs_min(in, out); }
 inline int max(const dsp_vector* in, dsp_vector* out) { return dsps_max(in, out); }
 inline int max(const dspf_vector* in, dspf_vector* out) { return dspfs_max(in, out); }
+inline int median(const dsp_vector* in, dsp_vector* out) { return dsps_median(in, out); }
+inline int median(const dspf_vector* in, dspf_vector* out) { return dspfs_median(in, out); }
 inline int magsq_sum(const dsp_vector* in, dsp_vector* out) { return dsps_magsq_sum(in, out); }
 inline int magsq_sum(const dspf_vector* in, dspf_vector* out) { return dspfs_magsq_sum(in, out); }
 inline int rms(const dsp_vector* in, dsp_vector* out) { return dsps_rms(in, out); }
