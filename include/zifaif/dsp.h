@@ -345,6 +345,34 @@ ZF_API int ZF_CALL dspfi_zpad(dspf_vector *v, int n);
 /* FFT                                                                       */
 /* ------------------------------------------------------------------------ */
 
+/* Complex FFT of a power-of-two number of points in place; direction 0 is the
+ * forward transform (kernel e^-j, scaled by 1/N), any other the unscaled
+ * inverse. A real vector becomes complex with N points; delta becomes
+ * 1/(N delta) (1e100, single 1e15, when delta is 0). -1 for other lengths. */
+ZF_API int ZF_CALL dspi_fft (dsp_vector  *v, int direction);
+ZF_API int ZF_CALL dspfi_fft(dspf_vector *v, int direction);
+/* Forward FFT of a real vector of N = 2^k points: N/2 + 1 complex bins, DC to
+ * Nyquist, scaled by 1/N (storage grown to N pairs). -1 for a complex vector. */
+ZF_API int ZF_CALL dspi_rfft (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rfft(dspf_vector *v);
+/* Inverse of dspi_rfft: M bins become N = 2(M - 1) real samples (unscaled);
+ * the imaginary parts of the DC and Nyquist bins are ignored. -1 unless N is a
+ * power of two (M = 1 gives one sample). */
+ZF_API int ZF_CALL dspi_irfft (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_irfft(dspf_vector *v);
+/* Permutes the samples (complex pairs when complex) into bit-reversed index
+ * order; shape and delta unchanged. -1 unless points is a power of two. */
+ZF_API int ZF_CALL dspi_bitrev (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_bitrev(dspf_vector *v);
+/* The same permutation, every sample multiplied by 1/N. */
+ZF_API int ZF_CALL dspi_bitrev_scale (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_bitrev_scale(dspf_vector *v);
+/* dspi_fft on a caller's array of points samples (pairs when complex is
+ * nonzero), transformed in place; caller-pops convention, plain name. A real
+ * array (complex 0) of two or more points has no room for the complex result:
+ * -1 and the array is left untouched. No single-precision twin. */
+ZF_API int ZF_CDECL cf_dspi_fft(double *data, int points, int complex, int direction);
+
 /* ------------------------------------------------------------------------ */
 /* DFT, DCT, Hilbert transform and analytic signal                           */
 /* ------------------------------------------------------------------------ */
