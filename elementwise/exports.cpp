@@ -50,6 +50,22 @@ ZF_API int ZF_CALL dspi_zero (dsp_vector*  v) noexcept { return zf::zero<double>
 ZF_API int ZF_CALL dspfi_zero(dspf_vector* v) noexcept { return zf::zero<float>(v); }
 ZF_API int ZF_CALL dspi_zpad (dsp_vector*  v, int n) noexcept { return zf::zpad<double>(v, n); }
 ZF_API int ZF_CALL dspfi_zpad(dspf_vector* v, int n) noexcept { return zf::zpad<float>(v, n); }
+ZF_API int ZF_CALL dspi_zpad2 (dsp_vector*  v, int n, int flags) noexcept { return zf::zpad2<double>(v, n, flags); }
+ZF_API int ZF_CALL dspfi_zpad2(dspf_vector* v, int n, int flags) noexcept { return zf::zpad2<float>(v, n, flags); }
+ZF_API int ZF_CALL dspi_unzpad (dsp_vector*  v, int n, int flags) noexcept { return zf::unzpad<double>(v, n, flags); }
+ZF_API int ZF_CALL dspfi_unzpad(dspf_vector* v, int n, int flags) noexcept { return zf::unzpad<float>(v, n, flags); }
+ZF_API int ZF_CALL dspi_differ (dsp_vector*  v) noexcept { return zf::differ<double>(v); }
+ZF_API int ZF_CALL dspfi_differ(dspf_vector* v) noexcept { return zf::differ<float>(v); }
+ZF_API int ZF_CALL dspi_pdiffer (dsp_vector*  v) noexcept { return zf::pdiffer<double>(v); }
+ZF_API int ZF_CALL dspfi_pdiffer(dspf_vector* v) noexcept { return zf::pdiffer<float>(v); }
+ZF_API int ZF_CALL dspi_integ (dsp_vector*  v) noexcept { return zf::integ<double>(v); }
+ZF_API int ZF_CALL dspfi_integ(dspf_vector* v) noexcept { return zf::integ<float>(v); }
+ZF_API int ZF_CALL dspi_edge (dsp_vector*  v, int mode, double level) noexcept { return zf::edge<double>(v, mode, level); }
+ZF_API int ZF_CALL dspfi_edge(dspf_vector* v, int mode, float  level) noexcept { return zf::edge<float>(v, mode, level); }
+ZF_API int ZF_CALL dspi_unwrap (dsp_vector*  v) noexcept { return zf::unwrap<double>(v); }
+ZF_API int ZF_CALL dspfi_unwrap(dspf_vector* v) noexcept { return zf::unwrap<float>(v); }
+ZF_API int ZF_CALL dspi_unwrap_wnd (dsp_vector*  v, int w) noexcept { return zf::unwrap_wnd<double>(v, w); }
+ZF_API int ZF_CALL dspfi_unwrap_wnd(dspf_vector* v, int w) noexcept { return zf::unwrap_wnd<float>(v, w); }
 
 // ---- special functions
 

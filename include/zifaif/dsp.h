@@ -336,6 +336,34 @@ ZF_API int ZF_CALL dspfi_zero(dspf_vector *v);
 /* Grows to n samples with zeros at the end; never shortens. 0 or -1. */
 ZF_API int ZF_CALL dspi_zpad (dsp_vector  *v, int n);
 ZF_API int ZF_CALL dspfi_zpad(dspf_vector *v, int n);
+/* Grows to n samples: flags & 3 scales the old samples (0: n/m, 1: sqrt(n/m), 2: none),
+ * flags & 0x700 places them (0: front, 0x100: centre, 0x200: end, 0x300: split as a
+ * spectrum). Invalid flags give -1 after the growth. 0 or -1. */
+ZF_API int ZF_CALL dspi_zpad2 (dsp_vector  *v, int n, int flags);
+ZF_API int ZF_CALL dspfi_zpad2(dspf_vector *v, int n, int flags);
+/* Inverse of dspi_zpad2: shrinks to n samples taken from the same place with the inverse
+ * scaling; invalid flags give -1 with the vector unchanged. 0 or -1. */
+ZF_API int ZF_CALL dspi_unzpad (dsp_vector  *v, int n, int flags);
+ZF_API int ZF_CALL dspfi_unzpad(dspf_vector *v, int n, int flags);
+/* First difference divided by delta (1e100 / 1e15 times when delta is 0); y0 = x0 / delta. 0 or -1. */
+ZF_API int ZF_CALL dspi_differ (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_differ(dspf_vector *v);
+/* Derivative of a polynomial (lowest power first): points decreases by 1. 0 or -1. */
+ZF_API int ZF_CALL dspi_pdiffer (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_pdiffer(dspf_vector *v);
+/* Running integral by the rectangle rule: y_k = sum of x_i * delta for i <= k. 0 or -1. */
+ZF_API int ZF_CALL dspi_integ (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_integ(dspf_vector *v);
+/* Replaces a real vector by the times (delta units) at which it crosses level: mode 1 rising,
+ * 2 falling, 3 both; points becomes the count and delta 1.0. 0 or -1. */
+ZF_API int ZF_CALL dspi_edge (dsp_vector  *v, int mode, double level);
+ZF_API int ZF_CALL dspfi_edge(dspf_vector *v, int mode, float  level);
+/* Phase unwrapping in radians against the previous output (the first against 0); real only. 0 or -1. */
+ZF_API int ZF_CALL dspi_unwrap (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_unwrap(dspf_vector *v);
+/* Phase unwrapping against the mean of the last w outputs; real only, w >= 0. 0 or -1. */
+ZF_API int ZF_CALL dspi_unwrap_wnd (dsp_vector  *v, int w);
+ZF_API int ZF_CALL dspfi_unwrap_wnd(dspf_vector *v, int w);
 
 /* ------------------------------------------------------------------------ */
 /* Special functions                                                         */

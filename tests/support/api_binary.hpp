@@ -47,4 +47,20 @@ inline int zero(dsp_vector* v) { return dspi_zero(v); }
 inline int zero(dspf_vector* v) { return dspfi_zero(v); }
 inline int zpad(dsp_vector* v, int n) { return dspi_zpad(v, n); }
 inline int zpad(dspf_vector* v, int n) { return dspfi_zpad(v, n); }
+inline int zpad2(dsp_vector* v, int n, int flags) { return dspi_zpad2(v, n, flags); }
+inline int zpad2(dspf_vector* v, int n, int flags) { return dspfi_zpad2(v, n, flags); }
+inline int unzpad(dsp_vector* v, int n, int flags) { return dspi_unzpad(v, n, flags); }
+inline int unzpad(dspf_vector* v, int n, int flags) { return dspfi_unzpad(v, n, flags); }
+inline int differ(dsp_vector* v) { return dspi_differ(v); }
+inline int differ(dspf_vector* v) { return dspfi_differ(v); }
+inline int pdiffer(dsp_vector* v) { return dspi_pdiffer(v); }
+inline int pdiffer(dspf_vector* v) { return dspfi_pdiffer(v); }
+inline int integ(dsp_vector* v) { return dspi_integ(v); }
+inline int integ(dspf_vector* v) { return dspfi_integ(v); }
+inline int edge(dsp_vector* v, int mode, double level) { return dspi_edge(v, mode, level); }
+inline int edge(dspf_vector* v, int mode, float level) { return dspfi_edge(v, mode, level); }
+inline int unwrap(dsp_vector* v) { return dspi_unwrap(v); }
+inline int unwrap(dspf_vector* v) { return dspfi_unwrap(v); }
+inline int unwrap_wnd(dsp_vector* v, int w) { return dspi_unwrap_wnd(v, w); }
+inline int unwrap_wnd(dspf_vector* v, int w) { return dspfi_unwrap_wnd(v, w); }
 }  // namespace api

@@ -96,4 +96,22 @@ inline std::vector<Cx> poly_product(const std::vector<Cx>& a, const std::vector<
     return out;
 }
 
+
+// Zero padding by placement (0 front, 0x100 centre, 0x200 end, 0x300 spectrum
+// split), each old sample multiplied by f.
+inline std::vector<Cx> padded(const std::vector<Cx>& x, std::size_t n, int place, long double f) {
+    const std::size_t m = x.size();
+    std::vector<Cx> out(n);
+    if (place == 0x300) {
+        const std::size_t head = (m + 1) / 2;
+        for (std::size_t k = 0; k < m; ++k) out[k < head ? k : n - (m - k)] = x[k] * f;
+        return out;
+    }
+    std::size_t start = 0;
+    if (place == 0x200) start = n - m;
+    if (place == 0x100) start = (n - m) / 2 + (n % 2 == 0 && m % 2 == 1 ? 1 : 0);
+    for (std::size_t k = 0; k < m; ++k) out[start + k] = x[k] * f;
+    return out;
+}
+
 }  // namespace zt
