@@ -33,6 +33,7 @@ template <> struct Traits<double> {
     static constexpr double eps = DBL_EPSILON;
     static constexpr int file_size_word = 0x0408;              // binary vector file: 8-byte scalars
     static constexpr int ascii_digits = 16;                    // %.16g in ASCII vector files
+    static constexpr const char* ascii_scan_length = "l";      // %lg reads a double
 };
 
 template <> struct Traits<float> {
@@ -49,6 +50,7 @@ template <> struct Traits<float> {
     static constexpr float eps = FLT_EPSILON;
     static constexpr int file_size_word = 0x0404;
     static constexpr int ascii_digits = 7;
+    static constexpr const char* ascii_scan_length = "";
 };
 
 // Scalars a record needs for its current shape (64-bit: 2 * INT_MAX does not overflow).

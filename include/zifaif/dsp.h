@@ -260,6 +260,32 @@ ZF_API void ZF_CDECL set_runfast(void);
 /* Vector files                                                              */
 /* ------------------------------------------------------------------------ */
 
+/* Opens a vector file: a stream, or null. "-" is standard input for a mode
+ * beginning 'r' and standard output for one beginning 'w' (a 'b' as second or
+ * third character switches it to binary mode); other names go to fopen. */
+ZF_API FILE *ZF_CALL dspf_fopen (const char *name, const char *mode);
+ZF_API FILE *ZF_CALL dspff_fopen(const char *name, const char *mode);
+/* Closes a stream of dspf_fopen: 0 for standard input and output, which stay
+ * open; otherwise the result of fclose. */
+ZF_API int ZF_CALL dspf_fclose (FILE *f);
+ZF_API int ZF_CALL dspff_fclose(FILE *f);
+/* Reads the next vector of the stream (binary of either precision and byte
+ * order, or ASCII) and sizes v for it: 1 when a vector was read, 0 at the end
+ * of the stream, -1 on a malformed or short file (v keeps what was read). */
+ZF_API int ZF_CALL dspf_fread (dsp_vector  *v, FILE *f);
+ZF_API int ZF_CALL dspff_fread(dspf_vector *v, FILE *f);
+/* Writes v in the binary form (header and samples). 0 or -1. */
+ZF_API int ZF_CALL dspf_fwrite (const dsp_vector  *v, FILE *f);
+ZF_API int ZF_CALL dspff_fwrite(const dspf_vector *v, FILE *f);
+/* Writes v in the form of the low byte of flags (0 binary, 1 ASCII, 2 one-line
+ * summary); 0x100 leaves out the header, 0x200 writes only the header. 0, or -1
+ * for an unknown form or a short write. */
+ZF_API int ZF_CALL dspf_fwrite2 (const dsp_vector  *v, FILE *f, int flags);
+ZF_API int ZF_CALL dspff_fwrite2(const dspf_vector *v, FILE *f, int flags);
+/* Writes v in the ASCII form. 0 or -1. */
+ZF_API int ZF_CALL dspf_fwrite_ascii (const dsp_vector  *v, FILE *f);
+ZF_API int ZF_CALL dspff_fwrite_ascii(const dspf_vector *v, FILE *f);
+
 /* ------------------------------------------------------------------------ */
 /* In-place element-wise arithmetic and conversions                          */
 /* ------------------------------------------------------------------------ */
