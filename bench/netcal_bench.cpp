@@ -3,7 +3,6 @@
 // benchmark reports the allocations made inside its timed loop.
 #include <zifaif/instrument.h>
 
-#include <complex>
 #include <cstdlib>
 #include <cstring>
 #include <random>
@@ -106,26 +105,42 @@ void BM_Correct2Port_portable(benchmark::State& state) {
 }
 BENCHMARK(BM_Correct2Port_portable);
 
-// A plain closed-form loop on std::complex<double>, as a caller might write it.
+// The memory traffic alone: the sixteen inputs read and the four outputs
+// written point by point with one addition each, the floor for any kernel
+// over these twenty streams.
+void BM_Correct2Port_memory_floor(benchmark::State& state) {
+    TwoPortData data(kPoints);
+    const zf::TwoPortArrays t = data.arrays();
+    for (auto _ : state) {
+        for (int j = 0; j < kPoints; ++j)
+            for (int p = 0; p < 4; ++p)
+                t.corrected[p][j] = t.tracking[p][j] + t.match[p][j] + t.offset[p][j] + t.measured[p][j];
+        benchmark::ClobberMemory();
+    }
+    per_point(state, kPoints, 0);
+}
+BENCHMARK(BM_Correct2Port_memory_floor);
+
+// A plain closed-form loop on doubles, as a caller might write it: the
+// textbook twelve-term formulas with one division by the determinant.
 void BM_Correct2Port_closed_form_loop(benchmark::State& state) {
     TwoPortData data(kPoints);
-    using C = std::complex<double>;
-    auto at = [](std::vector<double>& v, int j) { return C(v[2 * j], v[2 * j + 1]); };
-    auto put = [](std::vector<double>& v, int j, C z) { v[2 * j] = z.real(); v[2 * j + 1] = z.imag(); };
+    using zf::Cx;
+    const zf::TwoPortArrays t = data.arrays();
+    const Cx one{1.0, 0.0};
     for (auto _ : state) {
         for (int j = 0; j < kPoints; ++j) {
-            const C n11 = (at(data.meas[0], j) - at(data.offset[0], j)) / at(data.track[0], j);
-            const C n12 = (at(data.meas[1], j) - at(data.offset[1], j)) / at(data.track[1], j);
-            const C n21 = (at(data.meas[2], j) - at(data.offset[2], j)) / at(data.track[2], j);
-            const C n22 = (at(data.meas[3], j) - at(data.offset[3], j)) / at(data.track[3], j);
-            const C esf = at(data.match[0], j), elr = at(data.match[1], j);
-            const C elf = at(data.match[2], j), esr = at(data.match[3], j);
-            const C a = 1.0 + n11 * esf, b = 1.0 + n22 * esr;
-            const C inv_d = 1.0 / (a * b - n21 * n12 * elf * elr);
-            put(data.out[0], j, (n11 * b - elf * n21 * n12) * inv_d);
-            put(data.out[1], j, n12 * (1.0 + n11 * (esf - elr)) * inv_d);
-            put(data.out[2], j, n21 * (1.0 + n22 * (esr - elf)) * inv_d);
-            put(data.out[3], j, (n22 * a - elr * n21 * n12) * inv_d);
+            const Cx n11 = (t.measured[0][j] - t.offset[0][j]) / t.tracking[0][j];
+            const Cx n12 = (t.measured[1][j] - t.offset[1][j]) / t.tracking[1][j];
+            const Cx n21 = (t.measured[2][j] - t.offset[2][j]) / t.tracking[2][j];
+            const Cx n22 = (t.measured[3][j] - t.offset[3][j]) / t.tracking[3][j];
+            const Cx esf = t.match[0][j], elr = t.match[1][j], elf = t.match[2][j], esr = t.match[3][j];
+            const Cx a = one + n11 * esf, b = one + n22 * esr, n2112 = n21 * n12;
+            const Cx inv_d = one / (a * b - n2112 * elf * elr);
+            t.corrected[0][j] = (n11 * b - elf * n2112) * inv_d;
+            t.corrected[1][j] = n12 * (one + n11 * (esf - elr)) * inv_d;
+            t.corrected[2][j] = n21 * (one + n22 * (esr - elf)) * inv_d;
+            t.corrected[3][j] = (n22 * a - elr * n2112) * inv_d;
         }
         benchmark::ClobberMemory();
     }

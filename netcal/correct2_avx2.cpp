@@ -9,6 +9,8 @@
 // baseline processor.
 #include <immintrin.h>
 
+#include <cstdint>
+
 #include "netcal/correct.hpp"
 
 namespace zf {
@@ -42,6 +44,7 @@ inline W wle(W a, W b) noexcept { return {{_mm256_cmp_pd(a.h[0], b.h[0], _CMP_LE
 inline W wlt(W a, W b) noexcept { return {{_mm256_cmp_pd(a.h[0], b.h[0], _CMP_LT_OQ), _mm256_cmp_pd(a.h[1], b.h[1], _CMP_LT_OQ)}}; }
 inline W weq(W a, W b) noexcept { return {{_mm256_cmp_pd(a.h[0], b.h[0], _CMP_EQ_OQ), _mm256_cmp_pd(a.h[1], b.h[1], _CMP_EQ_OQ)}}; }
 inline bool wall(W mask) noexcept { return (_mm256_movemask_pd(mask.h[0]) & _mm256_movemask_pd(mask.h[1])) == 0xF; }
+inline bool wany(W mask) noexcept { return (_mm256_movemask_pd(mask.h[0]) | _mm256_movemask_pd(mask.h[1])) != 0; }
 
 // Eight complex numbers.
 struct V {
@@ -103,12 +106,14 @@ inline W vmagnitude(V z) noexcept {
     return wselect(scaled, plain, safe);
 }
 
-// Twenty streams are more than the hardware prefetchers follow: each call
-// asks for the two cache lines that it will need some calls later.
+// Twenty streams are more than the hardware prefetchers keep up with: each
+// call asks for the inputs of the call eight calls later, into the L2 cache.
 constexpr int kPrefetchPoints = 64;
 inline void prefetch_ahead(const Cx* p) noexcept {
-    _mm_prefetch(reinterpret_cast<const char*>(p + kPrefetchPoints), _MM_HINT_T0);
-    _mm_prefetch(reinterpret_cast<const char*>(p + kPrefetchPoints + 4), _MM_HINT_T0);
+    // Integer arithmetic: the address may lie past the end of the array.
+    const std::uintptr_t at = reinterpret_cast<std::uintptr_t>(p) + kPrefetchPoints * sizeof(Cx);
+    _mm_prefetch(reinterpret_cast<const char*>(at), _MM_HINT_T1);
+    _mm_prefetch(reinterpret_cast<const char*>(at + 4 * sizeof(Cx)), _MM_HINT_T1);
 }
 
 }  // namespace
@@ -125,7 +130,6 @@ void correct_2port_x8_avx2(const TwoPortArrays& t, int start) noexcept {
         prefetch_ahead(t.tracking[p] + start);
         prefetch_ahead(t.match[p] + start);
         if (t.offset[p]) prefetch_ahead(t.offset[p] + start);
-        if (t.corrected[p]) prefetch_ahead(t.corrected[p] + start);
         V raw = load8(t.measured[p] + start);
         if (t.offset[p]) raw = vsub(raw, load8(t.offset[p] + start));
         n[p] = vdiv(raw, load8(t.tracking[p] + start));
@@ -157,13 +161,16 @@ void correct_2port_x8_avx2(const TwoPortArrays& t, int start) noexcept {
     a00 = vsub(a00, vmul(f, a10));
     a01 = vsub(zero, vmul(f, a11));
 
-    // Undo the row interchange on the columns, then pick each lane's state.
+    // Undo the row interchange on the columns; a lane whose matrix was
+    // singular keeps the state its inversion stopped in.
     V i00 = vselect(a00, a01, swap), i01 = vselect(a01, a00, swap);
     V i10 = vselect(a10, a11, swap), i11 = vselect(a11, a10, swap);
-    i00 = vselect(vselect(i00, h00, singular1), m[0], singular0);
-    i01 = vselect(vselect(i01, h01, singular1), m[1], singular0);
-    i10 = vselect(vselect(i10, h10, singular1), m[2], singular0);
-    i11 = vselect(vselect(i11, h11, singular1), m[3], singular0);
+    if (wany(wor(singular0, singular1))) {
+        i00 = vselect(vselect(i00, h00, singular1), m[0], singular0);
+        i01 = vselect(vselect(i01, h01, singular1), m[1], singular0);
+        i10 = vselect(vselect(i10, h10, singular1), m[2], singular0);
+        i11 = vselect(vselect(i11, h11, singular1), m[3], singular0);
+    }
 
     // Corrected = N * M^-1, each sum accumulated from zero in increasing k.
     const V c[4] = {vadd(vadd(zero, vmul(n[0], i00)), vmul(n[1], i10)),
