@@ -1,6 +1,7 @@
 // C entry points of the core: one line each, double then float, in header order.
 #include "core/cache.hpp"
 #include "core/control.hpp"
+#include "core/files.hpp"
 #include "core/vector.hpp"
 
 using namespace zf;
@@ -41,5 +42,17 @@ ZF_API int ZF_CALL dspf_version(void) noexcept { return version(); }
 ZF_API int  ZF_CDECL get_fpscr(void) noexcept { return fpscr_get(); }
 ZF_API int  ZF_CDECL set_fpscr(int word) noexcept { return fpscr_set(word); }
 ZF_API void ZF_CDECL set_runfast(void) noexcept { runfast(); }
+ZF_API FILE* ZF_CALL dspf_fopen (const char* name, const char* mode) noexcept { return open_file(name, mode); }
+ZF_API FILE* ZF_CALL dspff_fopen(const char* name, const char* mode) noexcept { return open_file(name, mode); }
+ZF_API int ZF_CALL dspf_fclose (FILE* f) noexcept { return close_file(f); }
+ZF_API int ZF_CALL dspff_fclose(FILE* f) noexcept { return close_file(f); }
+ZF_API int ZF_CALL dspf_fread (dsp_vector*  v, FILE* f) noexcept { return zf::fread<double>(v, f); }
+ZF_API int ZF_CALL dspff_fread(dspf_vector* v, FILE* f) noexcept { return zf::fread<float>(v, f); }
+ZF_API int ZF_CALL dspf_fwrite (const dsp_vector*  v, FILE* f) noexcept { return zf::fwrite<double>(v, f); }
+ZF_API int ZF_CALL dspff_fwrite(const dspf_vector* v, FILE* f) noexcept { return zf::fwrite<float>(v, f); }
+ZF_API int ZF_CALL dspf_fwrite2 (const dsp_vector*  v, FILE* f, int flags) noexcept { return fwrite2<double>(v, f, flags); }
+ZF_API int ZF_CALL dspff_fwrite2(const dspf_vector* v, FILE* f, int flags) noexcept { return fwrite2<float>(v, f, flags); }
+ZF_API int ZF_CALL dspf_fwrite_ascii (const dsp_vector*  v, FILE* f) noexcept { return fwrite_ascii<double>(v, f); }
+ZF_API int ZF_CALL dspff_fwrite_ascii(const dspf_vector* v, FILE* f) noexcept { return fwrite_ascii<float>(v, f); }
 
 }  // extern "C"

@@ -28,9 +28,11 @@ template <> struct Traits<double> {
     static constexpr double pi = 3.141592653589793;
     static constexpr double two_pi = 6.283185307179586;
     static constexpr double sqrt_half = 0.7071067811865476;
+    static constexpr double sqrt_two = 1.4142135623730951;
     static constexpr double eps = DBL_EPSILON;
     static constexpr int file_size_word = 0x0408;              // binary vector file: 8-byte scalars
     static constexpr int ascii_digits = 16;                    // %.16g in ASCII vector files
+    static constexpr const char* ascii_scan_length = "l";      // %lg reads a double
 };
 
 template <> struct Traits<float> {
@@ -41,10 +43,12 @@ template <> struct Traits<float> {
     static constexpr float exp10_limit = 15.0f;
     static constexpr float pi = 3.14159265f;
     static constexpr float two_pi = 6.28318531f;
-    static constexpr float sqrt_half = 0.707106781f;
+    static constexpr float sqrt_half = 0.707106781f;            // stored as 0.70710677
+    static constexpr float sqrt_two = 1.41421356f;             // stored as 1.4142135
     static constexpr float eps = FLT_EPSILON;
     static constexpr int file_size_word = 0x0404;
     static constexpr int ascii_digits = 7;
+    static constexpr const char* ascii_scan_length = "";
 };
 
 // Scalars a record needs for its current shape (64-bit: 2 * INT_MAX does not overflow).

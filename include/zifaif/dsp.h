@@ -260,6 +260,32 @@ ZF_API void ZF_CDECL set_runfast(void);
 /* Vector files                                                              */
 /* ------------------------------------------------------------------------ */
 
+/* Opens a vector file: a stream, or null. "-" is standard input for a mode
+ * beginning 'r' and standard output for one beginning 'w' (a 'b' as second or
+ * third character switches it to binary mode); other names go to fopen. */
+ZF_API FILE *ZF_CALL dspf_fopen (const char *name, const char *mode);
+ZF_API FILE *ZF_CALL dspff_fopen(const char *name, const char *mode);
+/* Closes a stream of dspf_fopen: 0 for standard input and output, which stay
+ * open; otherwise the result of fclose. */
+ZF_API int ZF_CALL dspf_fclose (FILE *f);
+ZF_API int ZF_CALL dspff_fclose(FILE *f);
+/* Reads the next vector of the stream (binary of either precision and byte
+ * order, or ASCII) and sizes v for it: 1 when a vector was read, 0 at the end
+ * of the stream, -1 on a malformed or short file (v keeps what was read). */
+ZF_API int ZF_CALL dspf_fread (dsp_vector  *v, FILE *f);
+ZF_API int ZF_CALL dspff_fread(dspf_vector *v, FILE *f);
+/* Writes v in the binary form (header and samples). 0 or -1. */
+ZF_API int ZF_CALL dspf_fwrite (const dsp_vector  *v, FILE *f);
+ZF_API int ZF_CALL dspff_fwrite(const dspf_vector *v, FILE *f);
+/* Writes v in the form of the low byte of flags (0 binary, 1 ASCII, 2 one-line
+ * summary); 0x100 leaves out the header, 0x200 writes only the header. 0, or -1
+ * for an unknown form or a short write. */
+ZF_API int ZF_CALL dspf_fwrite2 (const dsp_vector  *v, FILE *f, int flags);
+ZF_API int ZF_CALL dspff_fwrite2(const dspf_vector *v, FILE *f, int flags);
+/* Writes v in the ASCII form. 0 or -1. */
+ZF_API int ZF_CALL dspf_fwrite_ascii (const dsp_vector  *v, FILE *f);
+ZF_API int ZF_CALL dspff_fwrite_ascii(const dspf_vector *v, FILE *f);
+
 /* ------------------------------------------------------------------------ */
 /* In-place element-wise arithmetic and conversions                          */
 /* ------------------------------------------------------------------------ */
@@ -268,9 +294,102 @@ ZF_API void ZF_CDECL set_runfast(void);
 /* Binary operations                                                         */
 /* ------------------------------------------------------------------------ */
 
+/* Binary operations write out sized by themselves: points of the inputs (which
+ * must be equal unless stated), the mean spacing, complex when either input
+ * is (a real operand counts as imaginary part 0). out may be a or b. */
+/* a + b; unequal lengths zero-pad the shorter operand (output has the longer length). 0 or -1. */
+ZF_API int ZF_CALL dspb_add (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_add(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a - b; unequal lengths as dspb_add. 0 or -1. */
+ZF_API int ZF_CALL dspb_sub (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_sub(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a * b sample by sample (complex product); equal lengths. 0 or -1. */
+ZF_API int ZF_CALL dspb_mul (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_mul(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a / b; a zero divisor gives 1e100 (1e15 float) without sign, or 0 for a zero dividend. 0 or -1. */
+ZF_API int ZF_CALL dspb_div (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_div(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* a * conj(b); a real b gives dspb_mul. 0 or -1. */
+ZF_API int ZF_CALL dspb_conj_mul (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_conj_mul(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* Exponential-average update b + w (a - b) per scalar: a the new value, b the average. 0 or -1. */
+ZF_API int ZF_CALL dspb_avg_add (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, double w);
+ZF_API int ZF_CALL dspfb_avg_add(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, float  w);
+/* The smaller sample (complex: smaller squared magnitude; b wins ties). 0 or -1. */
+ZF_API int ZF_CALL dspb_min (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_min(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* The larger sample (complex: larger squared magnitude; b wins ties). 0 or -1. */
+ZF_API int ZF_CALL dspb_max (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_max(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* Interleaves a0, b0, a1, b1, ...: 2 * points samples at half the mean spacing. 0 or -1. */
+ZF_API int ZF_CALL dspb_inter (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_inter(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* Complex out = (re_k, im_k) from two real records of equal length. 0 or -1. */
+ZF_API int ZF_CALL dspb_ritoc (const dsp_vector  *re, const dsp_vector  *im, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_ritoc(const dspf_vector *re, const dspf_vector *im, dspf_vector *out);
+/* Polynomial product: a.points + b.points - 1 coefficients (0 when either is empty). 0 or -1. */
+ZF_API int ZF_CALL dspb_pmul (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfb_pmul(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+/* out becomes one sample holding sum a_k * b_k (no conjugation), complex when either is; equal lengths; delta kept. 0 or -1. */
+ZF_API int ZF_CALL dspbs_dot (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out);
+ZF_API int ZF_CALL dspfbs_dot(const dspf_vector *a, const dspf_vector *b, dspf_vector *out);
+
 /* ------------------------------------------------------------------------ */
 /* Rearrangement, editing and calculus                                       */
 /* ------------------------------------------------------------------------ */
+
+/* Reverses the order of the samples in place. 0 or -1. */
+ZF_API int ZF_CALL dspi_rev (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rev(dspf_vector *v);
+/* Drops the first n samples (points shrinks); n < 0 changes nothing. 0 or -1. */
+ZF_API int ZF_CALL dspi_shift (dsp_vector  *v, int n);
+ZF_API int ZF_CALL dspfi_shift(dspf_vector *v, int n);
+/* Random permutation of the samples from the library's generator. 0 or -1. */
+ZF_API int ZF_CALL dspi_shuffle (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_shuffle(dspf_vector *v);
+/* Sorts ascending: real by value, complex by squared magnitude, then re, then im. 0 or -1. */
+ZF_API int ZF_CALL dspi_sort (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sort(dspf_vector *v);
+/* Rotates right by points/2 samples (exchanges the halves of an even length). 0 or -1. */
+ZF_API int ZF_CALL dspi_swap_halves (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_swap_halves(dspf_vector *v);
+/* Rotates left by points/2 samples: the inverse of dspi_swap_halves. 0 or -1. */
+ZF_API int ZF_CALL dspi_swap_halves2 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_swap_halves2(dspf_vector *v);
+/* Sets every sample to 0, length and form kept. 0 or -1. */
+ZF_API int ZF_CALL dspi_zero (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_zero(dspf_vector *v);
+/* Grows to n samples with zeros at the end; never shortens. 0 or -1. */
+ZF_API int ZF_CALL dspi_zpad (dsp_vector  *v, int n);
+ZF_API int ZF_CALL dspfi_zpad(dspf_vector *v, int n);
+/* Grows to n samples: flags & 3 scales the old samples (0: n/m, 1: sqrt(n/m), 2: none),
+ * flags & 0x700 places them (0: front, 0x100: centre, 0x200: end, 0x300: split as a
+ * spectrum). Invalid flags give -1 after the growth. 0 or -1. */
+ZF_API int ZF_CALL dspi_zpad2 (dsp_vector  *v, int n, int flags);
+ZF_API int ZF_CALL dspfi_zpad2(dspf_vector *v, int n, int flags);
+/* Inverse of dspi_zpad2: shrinks to n samples taken from the same place with the inverse
+ * scaling; invalid flags give -1 with the vector unchanged. 0 or -1. */
+ZF_API int ZF_CALL dspi_unzpad (dsp_vector  *v, int n, int flags);
+ZF_API int ZF_CALL dspfi_unzpad(dspf_vector *v, int n, int flags);
+/* First difference divided by delta (1e100 / 1e15 times when delta is 0); y0 = x0 / delta. 0 or -1. */
+ZF_API int ZF_CALL dspi_differ (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_differ(dspf_vector *v);
+/* Derivative of a polynomial (lowest power first): points decreases by 1. 0 or -1. */
+ZF_API int ZF_CALL dspi_pdiffer (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_pdiffer(dspf_vector *v);
+/* Running integral by the rectangle rule: y_k = sum of x_i * delta for i <= k. 0 or -1. */
+ZF_API int ZF_CALL dspi_integ (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_integ(dspf_vector *v);
+/* Replaces a real vector by the times (delta units) at which it crosses level: mode 1 rising,
+ * 2 falling, 3 both; points becomes the count and delta 1.0. 0 or -1. */
+ZF_API int ZF_CALL dspi_edge (dsp_vector  *v, int mode, double level);
+ZF_API int ZF_CALL dspfi_edge(dspf_vector *v, int mode, float  level);
+/* Phase unwrapping in radians against the previous output (the first against 0); real only. 0 or -1. */
+ZF_API int ZF_CALL dspi_unwrap (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_unwrap(dspf_vector *v);
+/* Phase unwrapping against the mean of the last w outputs; real only, w >= 0. 0 or -1. */
+ZF_API int ZF_CALL dspi_unwrap_wnd (dsp_vector  *v, int w);
+ZF_API int ZF_CALL dspfi_unwrap_wnd(dspf_vector *v, int w);
 
 /* ------------------------------------------------------------------------ */
 /* Special functions                                                         */
@@ -279,6 +398,34 @@ ZF_API void ZF_CDECL set_runfast(void);
 /* ------------------------------------------------------------------------ */
 /* FFT                                                                       */
 /* ------------------------------------------------------------------------ */
+
+/* Complex FFT of a power-of-two number of points in place; direction 0 is the
+ * forward transform (kernel e^-j, scaled by 1/N), any other the unscaled
+ * inverse. A real vector becomes complex with N points; delta becomes
+ * 1/(N delta) (1e100, single 1e15, when delta is 0). -1 for other lengths. */
+ZF_API int ZF_CALL dspi_fft (dsp_vector  *v, int direction);
+ZF_API int ZF_CALL dspfi_fft(dspf_vector *v, int direction);
+/* Forward FFT of a real vector of N = 2^k points: N/2 + 1 complex bins, DC to
+ * Nyquist, scaled by 1/N (storage grown to N pairs). -1 for a complex vector. */
+ZF_API int ZF_CALL dspi_rfft (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rfft(dspf_vector *v);
+/* Inverse of dspi_rfft: M bins become N = 2(M - 1) real samples (unscaled);
+ * the imaginary parts of the DC and Nyquist bins are ignored. -1 unless N is a
+ * power of two (M = 1 gives one sample). */
+ZF_API int ZF_CALL dspi_irfft (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_irfft(dspf_vector *v);
+/* Permutes the samples (complex pairs when complex) into bit-reversed index
+ * order; shape and delta unchanged. -1 unless points is a power of two. */
+ZF_API int ZF_CALL dspi_bitrev (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_bitrev(dspf_vector *v);
+/* The same permutation, every sample multiplied by 1/N. */
+ZF_API int ZF_CALL dspi_bitrev_scale (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_bitrev_scale(dspf_vector *v);
+/* dspi_fft on a caller's array of points samples (pairs when complex is
+ * nonzero), transformed in place; caller-pops convention, plain name. A real
+ * array (complex 0) of two or more points has no room for the complex result:
+ * -1 and the array is left untouched. No single-precision twin. */
+ZF_API int ZF_CDECL cf_dspi_fft(double *data, int points, int complex, int direction);
 
 /* ------------------------------------------------------------------------ */
 /* DFT, DCT, Hilbert transform and analytic signal                           */

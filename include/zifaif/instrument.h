@@ -17,10 +17,97 @@ extern "C" {
 /* ------------------------------------------------------------------------ */
 /* Trace scaling, conversion and extrema                                     */
 /* ------------------------------------------------------------------------ */
+/* Arrays of n values, or of complex points stored as (re, im) pairs; ranges
+ * are [start, stop) by point index and every output is caller-sized. The float
+ * twins compute in double and round each stored value once. These routines
+ * trust their arguments, except that a null pointer, a negative start or a
+ * reversed range never makes them touch memory: they then write nothing and
+ * return the value named below (-1 from the searches, 0 from FindMinMax). */
+
+/* data[i] *= factor for i in [0, n); nothing for n <= 0. */
+ZF_API void ZF_CDECL vfpdbMul(double factor, double *data, int n);
+ZF_API void ZF_CDECL vfpsbMul(float factor, float *data, int n);
+/* dst[i] = (int)((src[i] - lo) * ((imax - imin) / (hi - lo)) + imin), truncated,
+ * unclamped (INT_MIN outside the int range; the float twin rounds the factor to
+ * float). Returns the last stored value, or imax - imin when n < 1 or a pointer
+ * is null (nothing stored). */
+ZF_API int ZF_CDECL vfpdb_ScaleToInt(const double *src, int n, double lo, double hi, int *dst, int imin, int imax);
+ZF_API int ZF_CDECL vfpsb_ScaleToInt(const float *src, int n, float lo, float hi, int *dst, int imin, int imax);
+/* dst[i] = (src[i] - lo) * ((outHi - outLo) / (hi - lo)) + outLo for i in [0, n); src may be dst. */
+ZF_API void ZF_CDECL vfpdb_ScaleToFP(const double *src, int n, double lo, double hi, double *dst, double outLo, double outHi);
+ZF_API void ZF_CDECL vfpsb_ScaleToFP(const float *src, int n, float lo, float hi, float *dst, float outLo, float outHi);
+/* Index of the first largest value in [start, stop); start when the range holds
+ * at most one value. */
+ZF_API int ZF_CDECL vfpd_FindMax(const double *data, int start, int stop);
+ZF_API int ZF_CDECL vfps_FindMax(const float *data, int start, int stop);
+/* As FindMax, skipping [exclFrom, exclTo): a start inside that band moves to
+ * exclTo, and -1 comes back when exclTo >= stop. */
+ZF_API int ZF_CDECL vfpd_FindMax2(const double *data, int start, int stop, int exclFrom, int exclTo);
+ZF_API int ZF_CDECL vfps_FindMax2(const float *data, int start, int stop, int exclFrom, int exclTo);
+/* Index of the first smallest value in [start + 1, stop); data[start] is never
+ * compared, and start comes back when no later value is below the type's
+ * largest finite value. */
+ZF_API int ZF_CDECL vfpd_FindMin(const double *data, int start, int stop);
+ZF_API int ZF_CDECL vfps_FindMin(const float *data, int start, int stop);
+/* As FindMax2 for the smallest value; unlike FindMin it starts from data[start]. */
+ZF_API int ZF_CDECL vfpd_FindMin2(const double *data, int start, int stop, int exclFrom, int exclTo);
+ZF_API int ZF_CDECL vfps_FindMin2(const float *data, int start, int stop, int exclFrom, int exclTo);
+/* Indices of the first largest and first smallest value of [start, stop) (both
+ * start when the range is empty). Returns 1, or 0 when start > stop or a
+ * pointer is null. */
+ZF_API int ZF_CDECL vfpd_FindMinMax(const double *data, int start, int stop, int *imax, int *imin);
+ZF_API int ZF_CDECL vfps_FindMinMax(const float *data, int start, int stop, int *imax, int *imin);
+/* data[0 .. n-1] linearly spaced from first to last. Returns n when n < 2, else
+ * n - 1 (0 for null data). */
+ZF_API int ZF_CDECL vfpd_ExpandLinear(double *data, int n, double first, double last);
+ZF_API int ZF_CDECL vfps_ExpandLinear(float *data, int n, float first, float last);
+/* data[0 .. n-1] logarithmically spaced from first to last (end points exact);
+ * nothing unless n > 0, first > 0 and last > 0. */
+ZF_API void ZF_CDECL vfpd_ExpandLog(double *data, int n, double first, double last);
+ZF_API void ZF_CDECL vfps_ExpandLog(float *data, int n, float first, float last);
+/* dst[i] = unwrapped phase of the complex points [start, stop) of src, in
+ * degrees when degrees is non-zero, else radians; continues the turns already
+ * in dst[0 .. start-1], so a trace may be unwrapped in consecutive chunks.
+ * The float twin returns stop. Nothing is written when stop < start. */
+ZF_API void ZF_CDECL vfpd_UnwrapPhase(const double *src, int start, int stop, double *dst, int degrees);
+ZF_API int ZF_CDECL vfps_UnwrapPhase(const float *src, int start, int stop, float *dst, int degrees);
+/* dst[i] for the complex points [start, stop) of src in display format code:
+ * 0 log magnitude (dB), 1 linear magnitude, 2 phase (degrees), 3 unwrapped
+ * phase (degrees), 4 standing-wave ratio (1e6 above magnitude 0.999998),
+ * 5 return loss (dB); other codes write nothing. A zero point gives -inf dB. */
+ZF_API void ZF_CDECL vfpd_FormatBuffer(int code, const double *src, double *dst, int start, int stop);
+ZF_API void ZF_CDECL vfps_FormatBuffer(int code, const float *src, float *dst, int start, int stop);
+/* dst[dstStart + i] = element i read from the bytes at base + offset (only the
+ * sum matters), byte order reversed when swap is non-zero, for i in
+ * [0, count). Returns 0; nothing is copied for a null address, a null dst or a
+ * negative dstStart. */
+ZF_API int ZF_CDECL vfpd_ByteCopyToFP(int offset, const void *base, double *dst, int dstStart, int count, int swap);
+ZF_API int ZF_CDECL vfps_ByteCopyToFP(int offset, const void *base, float *dst, int dstStart, int count, int swap);
+/* Returns nbytes, or -1 when width is 0, nbytes < width, nbytes is negative or
+ * not a multiple of width, or buf is null. Only the first element of buf is
+ * permuted, once per element: byte j goes to width-1-j and byte width-1-j to
+ * byte 0 for j < width/2 (for width 2 a true swap, toggled per element). */
+ZF_API int ZF_CDECL vfp_ByteSwap(void *buf, int nbytes, unsigned width);
+ZF_API int ZF_CDECL vfp_ByteSwapDummy(void *buf, int nbytes, unsigned width);
 
 /* ------------------------------------------------------------------------ */
 /* Trace smoothing                                                           */
 /* ------------------------------------------------------------------------ */
+/* Moving averages with an odd aperture >= 3 over the points [start, stop) of
+ * a trace of total points; dst is indexed like src and must be another array.
+ * Return the number of points written (the scan stops before a window that
+ * would reach past stop - 1), 0 for start == stop, -1 for a bad range or
+ * aperture or a null array. */
+
+/* Real trace, or phase trace in radians (phase non-zero: each window unwrapped
+ * locally, the mean wrapped to [-pi, pi]); edge non-zero keeps the full window
+ * with clamped indices at the trace ends instead of shrinking it. */
+ZF_API int ZF_CDECL vfpd_Smooth(const double *src, double *dst, int total, int start, int stop, int aperture, int phase, int edge);
+ZF_API int ZF_CDECL vfps_Smooth(const float *src, float *dst, int total, int start, int stop, int aperture, int phase, int edge);
+/* Complex trace as mean magnitude and mean atan2(re, im) angle (a lone point
+ * comes back with re and im exchanged). */
+ZF_API int ZF_CDECL vfpd_SmoothCpx(const double *src, double *dst, int total, int start, int stop, int aperture);
+ZF_API int ZF_CDECL vfps_SmoothCpx(const float *src, float *dst, int total, int start, int stop, int aperture);
 
 /* ------------------------------------------------------------------------ */
 /* Complex matrix kernels                                                    */

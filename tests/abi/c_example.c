@@ -12,8 +12,16 @@ int main(int argc, char **argv) {
 
     dsp_init(&wrapped); dsp_init(&copy); dsp_init(&back);
     wrapped.data = samples; wrapped.points = 4;  /* alloc 0: the array stays the caller's */
+    wrapped.delta = 0.001;
     if (dsp_copy(&copy, &wrapped) != 0) return 1;
-    (void)order; (void)f; (void)path;
+
+    f = dspf_fopen(path, "wb");                  /* binary form, header and samples */
+    if (!f || dspf_fwrite(&copy, f) != 0 || dspf_fclose(f) != 0) return 1;
+    f = dspf_fopen(path, "rb");
+    if (!f || dspf_fread(&back, f) != 1) return 1; /* 1: one vector read */
+    dspf_fclose(f);
+
+    dsp_cmp(&copy, &back, 0.0, &order);          /* 0: equal spacing and samples */
     dsp_destroy(&copy); dsp_destroy(&back); dsp_destroy(&wrapped);
-    return 0;
+    return order == 0 ? 0 : 1;
 }

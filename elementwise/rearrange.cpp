@@ -1,0 +1,134 @@
+#include "elementwise/rearrange.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "core/random.hpp"
+
+namespace zf {
+
+namespace {
+
+// One complex sample as the sort sees it. The record's scalars are viewed as
+// an array of these (same size, same alignment, no padding), so that the
+// standard sort moves whole pairs.
+template <class T> struct Pair {
+    T re, im;
+};
+static_assert(sizeof(Pair<double>) == 2 * sizeof(double), "pairs are packed");
+static_assert(sizeof(Pair<float>) == 2 * sizeof(float), "pairs are packed");
+
+// Strict ordering of one key in which NaN sorts after every number, so that
+// the comparator stays a strict weak order whatever the data hold.
+template <class T> inline int order(T a, T b) noexcept {
+    if (a < b) return -1;
+    if (b < a) return 1;
+    const bool na = std::isnan(a), nb = std::isnan(b);
+    if (na != nb) return na ? 1 : -1;
+    return 0;
+}
+
+// Squared magnitude with each part clamped to the saturation value: a part
+// outside +-huge makes the magnitude huge.
+template <class T> inline T clamped_magsq(const Pair<T>& z) noexcept {
+    const T huge = Traits<T>::huge;
+    if (z.re > huge || z.re < -huge || z.im > huge || z.im < -huge) return huge;
+    return z.re * z.re + z.im * z.im;
+}
+
+template <class T> inline bool pair_less(const Pair<T>& a, const Pair<T>& b) noexcept {
+    int r = order(clamped_magsq(a), clamped_magsq(b));
+    if (r == 0) r = order(a.re, b.re);
+    if (r == 0) r = order(a.im, b.im);
+    return r < 0;
+}
+
+template <class T> inline void swap_samples(T* d, int w, std::size_t i, std::size_t j) noexcept {
+    for (int p = 0; p < w; ++p) std::swap(d[i * w + p], d[j * w + p]);
+}
+
+}  // namespace
+
+template <class T> int rev(Vec<T>* v) noexcept {
+    if (!readable<T>(v)) return -1;
+    const int n = v->points;
+    if (n < 2) return 0;
+    T* d = v->data;
+    if (!v->complex) {
+        std::reverse(d, d + n);
+        return 0;
+    }
+    for (std::size_t i = 0, j = static_cast<std::size_t>(n) - 1; i < j; ++i, --j) {
+        std::swap(d[2 * i], d[2 * j]);
+        std::swap(d[2 * i + 1], d[2 * j + 1]);
+    }
+    return 0;
+}
+
+template <class T> int shift(Vec<T>* v, int n) noexcept {
+    if (!readable<T>(v)) return -1;
+    if (n < 0) return 0;
+    // When n exceeds the length, subvec clamps the count to 0.
+    return subvec<T>(v, v, n, v->points - n);
+}
+
+template <class T> int shuffle(Vec<T>* v) noexcept {
+    if (!readable<T>(v)) return -1;
+    const int n = v->points;
+    const int w = width<T>(*v);
+    T* d = v->data;
+    for (int i = 0; i + 1 < n; ++i) {
+        const int j = random31() % (n - i);
+        if (j != 0) swap_samples(d, w, static_cast<std::size_t>(i), static_cast<std::size_t>(i) + j);
+    }
+    return 0;
+}
+
+template <class T> int sort(Vec<T>* v) noexcept {
+    if (!readable<T>(v)) return -1;
+    const int n = v->points;
+    if (n < 2) return 0;
+    if (!v->complex) {
+        std::sort(v->data, v->data + n, [](T a, T b) { return order(a, b) < 0; });
+        return 0;
+    }
+    Pair<T>* p = reinterpret_cast<Pair<T>*>(v->data);
+    std::sort(p, p + n, pair_less<T>);
+    return 0;
+}
+
+template <class T> int swap_halves(Vec<T>* v) noexcept {
+    if (!readable<T>(v)) return -1;
+    const std::size_t n = static_cast<std::size_t>(v->points), w = width<T>(*v);
+    if (n < 2) return 0;
+    // Rotating right by n/2 samples brings the last n/2 samples to the front.
+    T* d = v->data;
+    std::rotate(d, d + w * (n - n / 2), d + w * n);
+    return 0;
+}
+
+template <class T> int swap_halves2(Vec<T>* v) noexcept {
+    if (!readable<T>(v)) return -1;
+    const std::size_t n = static_cast<std::size_t>(v->points), w = width<T>(*v);
+    if (n < 2) return 0;
+    T* d = v->data;
+    std::rotate(d, d + w * (n / 2), d + w * n);  // the first n/2 samples go to the end
+    return 0;
+}
+
+template int rev<double>(Vec<double>*) noexcept;
+template int shift<double>(Vec<double>*, int) noexcept;
+template int shuffle<double>(Vec<double>*) noexcept;
+template int sort<double>(Vec<double>*) noexcept;
+template int swap_halves<double>(Vec<double>*) noexcept;
+template int swap_halves2<double>(Vec<double>*) noexcept;
+
+template int rev<float>(Vec<float>*) noexcept;
+template int shift<float>(Vec<float>*, int) noexcept;
+template int shuffle<float>(Vec<float>*) noexcept;
+template int sort<float>(Vec<float>*) noexcept;
+template int swap_halves<float>(Vec<float>*) noexcept;
+template int swap_halves2<float>(Vec<float>*) noexcept;
+
+}  // namespace zf

@@ -1,0 +1,117 @@
+// Plain references for the binary operations and the rearrangement, editing
+// and calculus functions: samples as std::complex<long double> (a real record
+// gives imaginary part 0), loops written straight from the definitions.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <cstddef>
+#include <vector>
+
+namespace zt {
+
+using Cx = std::complex<long double>;
+
+// The samples of a scalar list, pairs when complex.
+template <class T> std::vector<Cx> samples(const std::vector<T>& s, bool complex) {
+    std::vector<Cx> out;
+    if (complex) {
+        for (std::size_t k = 0; k + 1 < s.size(); k += 2) out.emplace_back(s[k], s[k + 1]);
+    } else {
+        for (T x : s) out.emplace_back(x, 0.0L);
+    }
+    return out;
+}
+
+// Back to scalars: pairs when complex, real parts only otherwise.
+inline std::vector<long double> scalars_of(const std::vector<Cx>& z, bool complex) {
+    std::vector<long double> out;
+    for (const Cx& c : z) {
+        out.push_back(c.real());
+        if (complex) out.push_back(c.imag());
+    }
+    return out;
+}
+
+// Ascending order of the sort: real by value; complex by squared magnitude,
+// then real part, then imaginary part.
+inline bool sort_before(const Cx& a, const Cx& b) {
+    const long double ma = std::norm(a), mb = std::norm(b);
+    if (ma != mb) return ma < mb;
+    if (a.real() != b.real()) return a.real() < b.real();
+    return a.imag() < b.imag();
+}
+
+// Rotation to the right by r samples: sample k moves to (k + r) mod n.
+template <class S> std::vector<S> rotated_right(const std::vector<S>& x, std::size_t r) {
+    const std::size_t n = x.size();
+    std::vector<S> out(n);
+    for (std::size_t k = 0; k < n; ++k) out[(k + r) % n] = x[k];
+    return out;
+}
+
+
+// The sample-by-sample operations of the binary family.
+enum class BinOp { add, sub, mul, div, conj_mul, avg_add, min, max };
+inline const char* name_of(BinOp op) {
+    static const char* names[] = {"add", "sub", "mul", "div", "conj_mul", "avg_add", "min", "max"};
+    return names[static_cast<int>(op)];
+}
+
+// Squared magnitude as min and max judge it: a part beyond +-huge makes it huge.
+inline long double judged_norm(const Cx& z, long double huge) {
+    if (std::fabs(z.real()) > huge || std::fabs(z.imag()) > huge) return huge;
+    return std::norm(z);
+}
+
+// One output sample of a binary operation. complex: the output is complex
+// (either input is); w: the averaging weight; huge: the saturation value.
+inline Cx binary_ref(BinOp op, const Cx& a, const Cx& b, bool complex, long double w, long double huge) {
+    switch (op) {
+    case BinOp::add: return a + b;
+    case BinOp::sub: return a - b;
+    case BinOp::mul: return a * b;
+    case BinOp::conj_mul: return a * std::conj(b);
+    case BinOp::avg_add: return b + w * (a - b);
+    case BinOp::div:
+        if (b == Cx(0)) return Cx(a.real() != 0 ? huge : 0, a.imag() != 0 ? huge : 0);
+        return a * std::conj(b) / std::norm(b);
+    case BinOp::min:
+        if (!complex) return b.real() <= a.real() ? b : a;
+        return judged_norm(b, huge) <= judged_norm(a, huge) ? b : a;
+    case BinOp::max:
+        if (!complex) return b.real() >= a.real() ? b : a;
+        return judged_norm(b, huge) >= judged_norm(a, huge) ? b : a;
+    }
+    return Cx(0);
+}
+
+// Full linear convolution of two coefficient lists.
+inline std::vector<Cx> poly_product(const std::vector<Cx>& a, const std::vector<Cx>& b) {
+    if (a.empty() || b.empty()) return {};
+    std::vector<Cx> out(a.size() + b.size() - 1);
+    for (std::size_t i = 0; i < a.size(); ++i)
+        for (std::size_t j = 0; j < b.size(); ++j) out[i + j] += a[i] * b[j];
+    return out;
+}
+
+
+// Zero padding by placement (0 front, 0x100 centre, 0x200 end, 0x300 spectrum
+// split), each old sample multiplied by f.
+inline std::vector<Cx> padded(const std::vector<Cx>& x, std::size_t n, int place, long double f) {
+    const std::size_t m = x.size();
+    std::vector<Cx> out(n);
+    if (place == 0x300) {
+        const std::size_t head = (m + 1) / 2;
+        for (std::size_t k = 0; k < m; ++k) out[k < head ? k : n - (m - k)] = x[k] * f;
+        return out;
+    }
+    std::size_t start = 0;
+    if (place == 0x200) start = n - m;
+    if (place == 0x100) start = (n - m) / 2 + (n % 2 == 0 && m % 2 == 1 ? 1 : 0);
+    for (std::size_t k = 0; k < m; ++k) out[start + k] = x[k] * f;
+    return out;
+}
+
+}  // namespace zt

@@ -1,0 +1,140 @@
+#include <complex>
+
+#include "support/api_trace.hpp"
+#include "support/trace_ref.hpp"
+#include "support/vectors.hpp"
+
+using namespace zt;
+using cld = std::complex<ref::ld>;
+
+namespace {
+const ref::ld kPi = 3.141592653589793238462643383279502884L;
+
+// Display formats from their textbook definitions on a reflection coefficient.
+struct Format {
+    int code;
+    const char* name;
+    ref::ld (*value)(cld g);
+};
+const Format kFormats[] = {
+    {0, "log magnitude", [](cld g) { return 20 * std::log10(std::abs(g)); }},
+    {1, "linear magnitude", [](cld g) { return std::abs(g); }},
+    {2, "phase", [](cld g) { return std::arg(g) * 180 / kPi; }},
+    {4, "standing-wave ratio", [](cld g) { return (1 + std::abs(g)) / (1 - std::abs(g)); }},
+    {5, "return loss", [](cld g) { return -20 * std::log10(std::abs(g)); }},
+};
+}  // namespace
+
+template <class T> class TraceFormatTest : public ::testing::Test {};
+TYPED_TEST_SUITE(TraceFormatTest, Precisions);
+
+TYPED_TEST(TraceFormatTest, FormatsMatchTextbookDefinitionsInsideTheRange) {
+    using T = TypeParam;
+    const int n = 200, start = 20, stop = 180;
+    auto z = random_scalars<T>(2 * n, 23, -0.7, 0.7);
+    for (const Format& f : kFormats) {
+        SCOPED_TRACE(f.name);
+        std::vector<T> dst(n, T(-99));
+        api::format_buffer(f.code, z.data(), dst.data(), start, stop);
+        std::vector<ref::ld> want(n, -99);
+        for (int i = start; i < stop; ++i) want[i] = f.value(cld(z[2 * i], z[2 * i + 1]));
+        // Double: the phase display's degree factor is 6.6e-14 off 180/pi.
+        EXPECT_TRUE(near_all(dst, want, std::max(tol<T>(4), 1e-12)));
+    }
+}
+
+TYPED_TEST(TraceFormatTest, UnknownCodesAndEmptyRangesWriteNothing) {
+    using T = TypeParam;
+    const std::vector<T> z = {1, 2, 3, 4};
+    std::vector<T> dst(2, T(-99));
+    for (int code : {6, 7, -1}) api::format_buffer(code, z.data(), dst.data(), 0, 2);
+    for (int code = 0; code < 6; ++code) {
+        api::format_buffer(code, z.data(), dst.data(), 1, 1);
+        api::format_buffer(code, z.data(), dst.data(), 2, 0);
+        api::format_buffer(code, static_cast<const T*>(nullptr), dst.data(), 0, 2);
+    }
+    EXPECT_EQ(dst, std::vector<T>(2, T(-99)));
+}
+
+TYPED_TEST(TraceFormatTest, StandingWaveRatioLimit) {
+    using T = TypeParam;
+    // At the limit the formula still applies; above it the ratio is 1e6.
+    const std::vector<T> z = {T(0.999998), 0, 0, T(-0.9999985), T(0.6), T(0.8), 0, 0};
+    std::vector<T> dst(4);
+    api::format_buffer(4, z.data(), dst.data(), 0, 4);
+    const ref::ld m = z[0];
+    EXPECT_NEAR(dst[0], (1 + m) / (1 - m), 1e-6 * dst[0]);
+    EXPECT_LT(dst[0], T(1e6));
+    EXPECT_EQ(dst[1], T(1e6));
+    EXPECT_EQ(dst[2], T(1e6));
+    EXPECT_EQ(dst[3], T(1));
+}
+
+// A phase that turns steadily in steps below half a turn: the unwrapped
+// result is that phase, shifted by whole turns so that it starts on the
+// principal value.
+TYPED_TEST(TraceFormatTest, UnwrapRecoversContinuousPhaseWholeAndInChunks) {
+    using T = TypeParam;
+    const int n = 100;
+    for (ref::ld rate : {2.9L, -2.2L, 0.01L}) {
+        std::vector<T> z(2 * n);
+        std::vector<ref::ld> rad(n), deg(n);
+        for (int i = 0; i < n; ++i) {
+            const ref::ld phi = 1.0L + rate * i + 0.3L * std::sin(0.2L * i);
+            z[2 * i] = T(1.5L * std::cos(phi));
+            z[2 * i + 1] = T(1.5L * std::sin(phi));
+            rad[i] = phi - 1.0L + std::atan2(ref::ld(z[1]), ref::ld(z[0]));
+            deg[i] = rad[i] * 180 / kPi;
+        }
+        SCOPED_TRACE(double(rate));
+        std::vector<T> whole(n), chunked(n), in_degrees(n), formatted(n);
+        api::unwrap_phase(z.data(), 0, n, whole.data(), 0);
+        EXPECT_TRUE(near_all(whole, rad, tol<T>(8) * n));
+        for (auto [a, b] : {std::pair{0, 1}, {1, 37}, {37, 50}, {50, 50}, {50, 100}})
+            api::unwrap_phase(z.data(), a, b, chunked.data(), 0);
+        EXPECT_TRUE(near_all(chunked, rad, tol<T>(8) * n));
+        api::unwrap_phase(z.data(), 0, 50, in_degrees.data(), 1);
+        api::unwrap_phase(z.data(), 50, 100, in_degrees.data(), 1);
+        EXPECT_TRUE(near_all(in_degrees, deg, tol<T>(8) * n));
+        api::format_buffer(3, z.data(), formatted.data(), 0, n);
+        EXPECT_TRUE(near_all(formatted, deg, tol<T>(8) * n));
+    }
+}
+
+TYPED_TEST(TraceFormatTest, UnwrapLeavesReversedRangesAlone) {
+    using T = TypeParam;
+    const std::vector<T> z = {1, 0, 0, 1, -1, 0};
+    std::vector<T> dst(3, T(-99));
+    api::unwrap_phase(z.data(), 2, 1, dst.data(), 1);
+    api::unwrap_phase(z.data(), -1, 2, dst.data(), 1);
+    api::unwrap_phase(static_cast<const T*>(nullptr), 0, 3, dst.data(), 1);
+    EXPECT_EQ(dst, std::vector<T>(3, T(-99)));
+}
+
+TEST(TraceFormat, FloatUnwrapAnswersStop) {
+    const float z[6] = {1, 0, 0, 1, -1, 0};
+    float dst[3];
+    EXPECT_EQ(vfps_UnwrapPhase(z, 0, 3, dst, 1), 3);
+    EXPECT_NEAR(dst[2], 180.0f, 1e-4f);
+    EXPECT_EQ(vfps_UnwrapPhase(nullptr, 4, 2, nullptr, 0), 2);
+}
+
+// The phase display and the unwrapping use degree factors that differ in the
+// last digits; at a half turn the display stays about 1.2e-11 short of 180.
+TEST(TraceFormat, PhaseDisplayAndUnwrapUseTheirOwnDegreeFactors) {
+    const double z[2] = {-1, 0};
+    double phase = 0, unwrapped = 0;
+    vfpd_FormatBuffer(2, z, &phase, 0, 1);
+    vfpd_FormatBuffer(3, z, &unwrapped, 0, 1);
+    EXPECT_NEAR(unwrapped, 180.0, 1e-13);
+    EXPECT_NEAR(phase, 180.0 - 1.18e-11, 0.02e-11);
+}
+
+TEST(TraceFormat, LogOfZeroIsMinusInfinity) {
+    const double z[2] = {0, 0};
+    double db = 0, rl = 0;
+    vfpd_FormatBuffer(0, z, &db, 0, 1);
+    vfpd_FormatBuffer(5, z, &rl, 0, 1);
+    EXPECT_EQ(db, -HUGE_VAL);
+    EXPECT_EQ(rl, HUGE_VAL);
+}

@@ -1,0 +1,138 @@
+// Portable kernels of the FFT engine and the run-time choice among them.
+#include "transform/fft_kernel.hpp"
+
+#include "transform/tables.hpp"
+
+namespace zf {
+namespace {
+
+// Multiplies (re, im) by the twiddle triple e: e^(-jt) when forward, e^(+jt)
+// when inverse, with three multiplications: t = c (re + im), then the other
+// two scalars of the triple exchange roles between the directions.
+template <class T> inline void rotate(T& re, T& im, const T* e, bool inverse) noexcept {
+    const T t = e[0] * (re + im);
+    const T r = inverse ? t + im * e[1] : t + im * e[2];
+    const T i = inverse ? t + re * e[2] : t + re * e[1];
+    re = r;
+    im = i;
+}
+
+// Length-2 and length-4 leaves (outputs in bit-reversed order).
+template <class T> inline void leaf2(T* x) noexcept {
+    const T ar = x[0], ai = x[1], br = x[2], bi = x[3];
+    x[0] = ar + br; x[1] = ai + bi;
+    x[2] = ar - br; x[3] = ai - bi;
+}
+template <class T> inline void leaf4(T* x, bool inverse) noexcept {
+    const T s0r = x[0] + x[4], s0i = x[1] + x[5];
+    const T d0r = x[0] - x[4], d0i = x[1] - x[5];
+    const T s1r = x[2] + x[6], s1i = x[3] + x[7];
+    const T d1r = x[2] - x[6], d1i = x[3] - x[7];
+    x[0] = s0r + s1r; x[1] = s0i + s1i;   // X0
+    x[2] = s0r - s1r; x[3] = s0i - s1i;   // X2
+    if (!inverse) {                        // X1 = d0 - j d1, X3 = d0 + j d1
+        x[4] = d0r + d1i; x[5] = d0i - d1r;
+        x[6] = d0r - d1i; x[7] = d0i + d1r;
+    } else {
+        x[4] = d0r - d1i; x[5] = d0i + d1r;
+        x[6] = d0r + d1i; x[7] = d0i - d1r;
+    }
+}
+
+// One L-shaped butterfly pass over a block of n: the sums of the halves go to
+// the first half (a transform of n/2 to come), the differences are combined
+// into the two quarter branches and rotated by w^k and w^3k.
+template <class T> void lpass(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept {
+    const std::ptrdiff_t q = n / 4;
+    T* a = x;
+    T* b = x + 2 * q;
+    T* c = x + 4 * q;
+    T* d = x + 6 * q;
+    for (std::ptrdiff_t k = 0; k < q; ++k) {
+        const std::ptrdiff_t r = 2 * k, i = 2 * k + 1;
+        const T ur = a[r] - c[r], ui = a[i] - c[i];
+        const T vr = b[r] - d[r], vi = b[i] - d[i];
+        a[r] += c[r]; a[i] += c[i];
+        b[r] += d[r]; b[i] += d[i];
+        // forward: z1 = u - jv, z3 = u + jv; inverse: the signs exchange
+        T z1r, z1i, z3r, z3i;
+        if (!inverse) { z1r = ur + vi; z1i = ui - vr; z3r = ur - vi; z3i = ui + vr; }
+        else          { z1r = ur - vi; z1i = ui + vr; z3r = ur + vi; z3i = ui - vr; }
+        const T* e = tw + 6 * k * stride;
+        rotate(z1r, z1i, e, inverse);
+        rotate(z3r, z3i, e + 3, inverse);
+        c[r] = z1r; c[i] = z1i;
+        d[r] = z3r; d[i] = z3i;
+    }
+}
+
+}  // namespace
+
+template <class T> void dif_portable(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept {
+    if (n <= 1) return;
+    if (n == 2) { leaf2(x); return; }
+    if (n == 4) { leaf4(x, inverse); return; }
+    lpass(x, n, tw, stride, inverse);
+    // Depth first: each sub-block is finished while it is still in cache.
+    dif_portable(x, n / 2, tw, 2 * stride, inverse);
+    dif_portable(x + n, n / 4, tw, 4 * stride, inverse);
+    dif_portable(x + n + n / 2, n / 4, tw, 4 * stride, inverse);
+}
+
+template <class T> void dif(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept {
+    dif_portable(x, n, tw, stride, inverse);
+}
+
+template <class T> void swap_pairs(T* x, const std::int32_t* p, int width) noexcept {
+    if (width == 2) {
+        for (; p[0] != 0; p += 2) {
+            T* u = x + 2 * static_cast<std::ptrdiff_t>(p[0]);
+            T* v = x + 2 * static_cast<std::ptrdiff_t>(p[1]);
+            const T r = u[0], i = u[1];
+            u[0] = v[0]; u[1] = v[1];
+            v[0] = r; v[1] = i;
+        }
+    } else {
+        for (; p[0] != 0; p += 2) {
+            const T t = x[p[0]];
+            x[p[0]] = x[p[1]];
+            x[p[1]] = t;
+        }
+    }
+}
+
+template <class T> void swap_pairs_scale(T* x, const std::int32_t* p, const std::int32_t* f, int width, T s) noexcept {
+    if (width == 2) {
+        for (; p[0] != 0; p += 2) {
+            T* u = x + 2 * static_cast<std::ptrdiff_t>(p[0]);
+            T* v = x + 2 * static_cast<std::ptrdiff_t>(p[1]);
+            const T r = u[0], i = u[1];
+            u[0] = v[0] * s; u[1] = v[1] * s;
+            v[0] = r * s; v[1] = i * s;
+        }
+        for (; *f != fixed_end; ++f) {
+            T* u = x + 2 * static_cast<std::ptrdiff_t>(*f);
+            u[0] *= s;
+            u[1] *= s;
+        }
+    } else {
+        for (; p[0] != 0; p += 2) {
+            const T t = x[p[0]];
+            x[p[0]] = x[p[1]] * s;
+            x[p[1]] = t * s;
+        }
+        for (; *f != fixed_end; ++f) x[*f] *= s;
+    }
+}
+
+template void dif<double>(double*, std::ptrdiff_t, const double*, std::ptrdiff_t, bool) noexcept;
+template void dif_portable<double>(double*, std::ptrdiff_t, const double*, std::ptrdiff_t, bool) noexcept;
+template void swap_pairs<double>(double*, const std::int32_t*, int) noexcept;
+template void swap_pairs_scale<double>(double*, const std::int32_t*, const std::int32_t*, int, double) noexcept;
+
+template void dif<float>(float*, std::ptrdiff_t, const float*, std::ptrdiff_t, bool) noexcept;
+template void dif_portable<float>(float*, std::ptrdiff_t, const float*, std::ptrdiff_t, bool) noexcept;
+template void swap_pairs<float>(float*, const std::int32_t*, int) noexcept;
+template void swap_pairs_scale<float>(float*, const std::int32_t*, const std::int32_t*, int, float) noexcept;
+
+}  // namespace zf

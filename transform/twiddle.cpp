@@ -1,0 +1,111 @@
+// Twiddle tables of the split-radix FFT.
+#include <cmath>
+#include <cstdlib>
+
+#include "core/cache.hpp"
+#include "core/vector.hpp"
+#include "transform/tables.hpp"
+
+namespace zf {
+namespace {
+
+template <class T> TableCache<T> cache;   // zero-initialised, trivially destructible
+
+// Writes one triple (cos t, -cos t - sin t, sin t - cos t), each rounded once.
+template <class T> void put(T* e, long double c, long double s) noexcept {
+    e[0] = static_cast<T>(c);
+    e[1] = static_cast<T>(-c - s);
+    e[2] = static_cast<T>(s - c);
+}
+
+// The table of length n (n a power of two, n > 2) in 3n/2 scalars.
+template <class T> T* build(int n) noexcept {
+    const int q = n / 4;       // entries
+    const int mid = n / 8;     // the entry at 45 degrees
+    T* t = static_cast<T*>(std::malloc(static_cast<std::size_t>(6) * q * sizeof(T)));
+    if (!t) return nullptr;
+    const T first[6] = {T(1), T(-1), T(-1), T(1), T(-1), T(-1)};
+    for (int i = 0; i < 6; ++i) t[i] = first[i];
+
+    // First triples: entries 1 .. mid-1 from the front and their mirrors
+    // q-1 .. mid+1 from the back, by the rotation recurrence, re-seeded with
+    // exact values every 256 steps. The arithmetic runs in long double and each
+    // value is rounded to T once.
+    const long double pi = 3.141592653589793238462643383279502884L;
+    const long double step = 2 * pi / n;
+    const long double cd = std::cos(step), sd = std::sin(step);
+    long double c = 1, s = 0;
+    for (int j = 1; j < mid; ++j) {
+        if ((j - 1) % 256 == 0) {
+            c = std::cos(step * j);
+            s = std::sin(step * j);
+        } else {
+            const long double c2 = c * cd - s * sd;
+            s = c * sd + s * cd;
+            c = c2;
+        }
+        put<T>(t + 6 * j, c, s);
+        put<T>(t + 6 * (q - j), s, c);   // angle pi/2 - t: cos and sin exchange
+    }
+    if (n > 4) {
+        T* e = t + 6 * mid;
+        e[0] = Traits<T>::sqrt_half;
+        e[1] = -Traits<T>::sqrt_two;
+        e[2] = T(0);
+    }
+
+    // Second triples (angle 3t) from the first triples by the symmetries of the
+    // circle: 3k < q is entry 3k itself; q <= 3k < 2q is pi/2 + a with a the angle
+    // of entry r = 3k - q, whose cosine is minus the sine of a (the first value
+    // of entry q - r); 2q <= 3k is pi + a, entry 3k - 2q negated.
+    for (int k = 1; k < q; ++k) {
+        const int m = 3 * k;
+        T* e = t + 6 * k + 3;
+        if (m < q) {
+            const T* f = t + 6 * m;
+            e[0] = f[0]; e[1] = f[1]; e[2] = f[2];
+        } else if (m < 2 * q) {
+            const int r = m - q;   // 1 .. q-1: 3k is never a multiple of q
+            const T* f = t + 6 * r;
+            e[0] = -t[6 * (q - r)];
+            e[1] = f[2];
+            e[2] = -f[1];
+        } else {
+            const T* f = t + 6 * (m - 2 * q);
+            e[0] = -f[0]; e[1] = -f[1]; e[2] = -f[2];
+        }
+    }
+    return t;
+}
+
+}  // namespace
+
+template <class T> const T* twiddles(int n) noexcept {
+    const int key = n / 2 * 3;
+    if (T* t = find_table(cache<T>, key)) return t;
+    T* t = build<T>(n);
+    if (!t) return nullptr;
+    if (!add_table(cache<T>, t, key)) {
+        std::free(t);
+        return nullptr;
+    }
+    register_cache<T>(CacheSlot::twiddle, &release_twiddles<T>);
+    return t;
+}
+
+template <class T> const TableCache<T>& twiddle_cache() noexcept { return cache<T>; }
+
+template <class T> int release_twiddles() noexcept {
+    clear_tables(cache<T>);
+    return 0;
+}
+
+template const double* twiddles<double>(int) noexcept;
+template const TableCache<double>& twiddle_cache<double>() noexcept;
+template int release_twiddles<double>() noexcept;
+
+template const float* twiddles<float>(int) noexcept;
+template const TableCache<float>& twiddle_cache<float>() noexcept;
+template int release_twiddles<float>() noexcept;
+
+}  // namespace zf
