@@ -29,6 +29,8 @@ template <> struct Traits<double> {
     static constexpr double two_pi = 6.283185307179586;
     static constexpr double sqrt_half = 0.7071067811865476;
     static constexpr double sqrt_two = 1.4142135623730951;
+    static constexpr double ln_10 = 2.302585092994046;        // e^(x ln 10) = 10^x
+    static constexpr double log10_e = 0.4342944819032518;     // log10(z) = ln(z) log10(e)
     static constexpr double eps = DBL_EPSILON;
     static constexpr int file_size_word = 0x0408;              // binary vector file: 8-byte scalars
     static constexpr int ascii_digits = 16;                    // %.16g in ASCII vector files
@@ -45,6 +47,8 @@ template <> struct Traits<float> {
     static constexpr float two_pi = 6.28318531f;
     static constexpr float sqrt_half = 0.707106781f;            // stored as 0.70710677
     static constexpr float sqrt_two = 1.41421356f;             // stored as 1.4142135
+    static constexpr float ln_10 = 2.30258509f;
+    static constexpr float log10_e = 0.434294482f;
     static constexpr float eps = FLT_EPSILON;
     static constexpr int file_size_word = 0x0404;
     static constexpr int ascii_digits = 7;

@@ -46,14 +46,7 @@ inline int centre_start(int outer, int inner) noexcept {
 }  // namespace
 
 template <class T> int zpad(Vec<T>* v, int n) noexcept {
-    if (!readable<T>(v)) return -1;
-    const int m = v->points;
-    if (m >= n) return 0;
-    v->points = n;
-    if (zf::realloc<T>(v, m, v->complex) != 0) return -1;
-    const std::size_t w = static_cast<std::size_t>(width<T>(*v));
-    fill_zero(v->data, w * m, w * static_cast<std::size_t>(n - m));
-    return 0;
+    return zpad2<T>(v, n, pad_place_front | pad_scale_none);
 }
 
 template <class T> int zero(Vec<T>* v) noexcept {

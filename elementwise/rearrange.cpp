@@ -90,7 +90,10 @@ template <class T> int sort(Vec<T>* v) noexcept {
     const int n = v->points;
     if (n < 2) return 0;
     if (!v->complex) {
-        std::sort(v->data, v->data + n, [](T a, T b) { return order(a, b) < 0; });
+        // NaN goes last; the numbers before it sort by plain comparison.
+        T* d = v->data;
+        T* nans = std::partition(d, d + n, [](T x) { return !std::isnan(x); });
+        std::sort(d, nans);
         return 0;
     }
     Pair<T>* p = reinterpret_cast<Pair<T>*>(v->data);
@@ -98,24 +101,23 @@ template <class T> int sort(Vec<T>* v) noexcept {
     return 0;
 }
 
-template <class T> int swap_halves(Vec<T>* v) noexcept {
+namespace {
+// Rotates the samples left by ceil(points/2) or floor(points/2): sample k
+// moves to (k - shift) mod points.
+template <class T> int rotate_left(Vec<T>* v, bool by_larger_half) noexcept {
     if (!readable<T>(v)) return -1;
     const std::size_t n = static_cast<std::size_t>(v->points), w = width<T>(*v);
     if (n < 2) return 0;
-    // Rotating right by n/2 samples brings the last n/2 samples to the front.
+    const std::size_t left = by_larger_half ? n - n / 2 : n / 2;
     T* d = v->data;
-    std::rotate(d, d + w * (n - n / 2), d + w * n);
+    std::rotate(d, d + w * left, d + w * n);
     return 0;
 }
+}  // namespace
 
-template <class T> int swap_halves2(Vec<T>* v) noexcept {
-    if (!readable<T>(v)) return -1;
-    const std::size_t n = static_cast<std::size_t>(v->points), w = width<T>(*v);
-    if (n < 2) return 0;
-    T* d = v->data;
-    std::rotate(d, d + w * (n / 2), d + w * n);  // the first n/2 samples go to the end
-    return 0;
-}
+// Rotating left by the larger half is rotating right by n/2.
+template <class T> int swap_halves(Vec<T>* v) noexcept { return rotate_left<T>(v, true); }
+template <class T> int swap_halves2(Vec<T>* v) noexcept { return rotate_left<T>(v, false); }
 
 template int rev<double>(Vec<double>*) noexcept;
 template int shift<double>(Vec<double>*, int) noexcept;

@@ -46,6 +46,7 @@ static int next_is_binary(FILE *f) {
 /* The one line that tells why vector `index` of `name` could not be read;
  * `kept` is the number of samples the reader kept. */
 static int read_failure(const char *name, FILE *f, int index, int binary, int kept) {
+    if (strcmp(name, "-") == 0) name = "standard input";
     if (ferror(f))
         fprintf(stderr, "zfvec: %s: read error in vector %d: %s\n", name, index, strerror(errno));
     else if (binary)

@@ -290,6 +290,118 @@ ZF_API int ZF_CALL dspff_fwrite_ascii(const dspf_vector *v, FILE *f);
 /* In-place element-wise arithmetic and conversions                          */
 /* ------------------------------------------------------------------------ */
 
+/* |x| of a real vector; -1 for a complex one (unchanged). */
+ZF_API int ZF_CALL dspi_abs (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_abs(dspf_vector *v);
+/* -x for every scalar. */
+ZF_API int ZF_CALL dspi_neg (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_neg(dspf_vector *v);
+/* x * factor for every scalar. */
+ZF_API int ZF_CALL dspi_scale (dsp_vector  *v, double factor);
+ZF_API int ZF_CALL dspfi_scale(dspf_vector *v, float  factor);
+/* x * (re + i im); a real vector becomes complex (grown in place). */
+ZF_API int ZF_CALL dspi_cscale (dsp_vector  *v, double re, double im);
+ZF_API int ZF_CALL dspfi_cscale(dspf_vector *v, float  re, float  im);
+/* x + offset; to the real part only of a complex vector. */
+ZF_API int ZF_CALL dspi_offset (dsp_vector  *v, double offset);
+ZF_API int ZF_CALL dspfi_offset(dspf_vector *v, float  offset);
+/* 1 / x; 0 gives 1e100 (1e15 for float), a complex 0 gives (0, -0). */
+ZF_API int ZF_CALL dspi_recip (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_recip(dspf_vector *v);
+/* x * x; real values beyond +-1e100 (1e15) give 1e100, complex parts are clamped first. */
+ZF_API int ZF_CALL dspi_square (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_square(dspf_vector *v);
+/* Principal square root; a negative real gives 0 (the vector stays real). */
+ZF_API int ZF_CALL dspi_sqrt (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sqrt(dspf_vector *v);
+/* e^x; real parts above 100 ln 10 (15 ln 10) give 1e100 (1e15). */
+ZF_API int ZF_CALL dspi_exp (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_exp(dspf_vector *v);
+/* 10^x; above 100 (15) gives 1e100 (1e15); a real value below -1e100 (-1e15) stops the conversion there. */
+ZF_API int ZF_CALL dspi_exp10 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_exp10(dspf_vector *v);
+/* Natural logarithm; below the smallest normal number gives its logarithm; complex: (ln|z|, arg z). */
+ZF_API int ZF_CALL dspi_log (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_log(dspf_vector *v);
+/* Base-10 logarithm, floored like log; complex: log10 of z. */
+ZF_API int ZF_CALL dspi_log10 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_log10(dspf_vector *v);
+/* factor * log10(x) (10 for power, 20 for amplitude), floored like log; complex: factor * log10 z. */
+ZF_API int ZF_CALL dspi_db (dsp_vector  *v, double factor);
+ZF_API int ZF_CALL dspfi_db(dspf_vector *v, float  factor);
+/* |x|; a complex vector becomes real, hypot(re, im), capacity kept. */
+ZF_API int ZF_CALL dspi_mag (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_mag(dspf_vector *v);
+/* x * x or re^2 + im^2 (1e100 / 1e15 beyond that range); the result is real. */
+ZF_API int ZF_CALL dspi_magsq (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_magsq(dspf_vector *v);
+/* Real: 0 for x >= 0, pi below; complex: atan2(im, re), 0 at the origin; the result is real. */
+ZF_API int ZF_CALL dspi_phase (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_phase(dspf_vector *v);
+/* A real vector becomes complex (x, 0), grown in place; a complex one is unchanged. */
+ZF_API int ZF_CALL dspi_rtoc (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rtoc(dspf_vector *v);
+/* Rectangular to polar (magnitude, phase); a real vector becomes complex first. */
+ZF_API int ZF_CALL dspi_rtop (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rtop(dspf_vector *v);
+/* Polar (magnitude, angle) pairs to rectangular; a real vector is unchanged. */
+ZF_API int ZF_CALL dspi_ptor (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_ptor(dspf_vector *v);
+/* Complex conjugate; a real vector is unchanged. */
+ZF_API int ZF_CALL dspi_conj (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_conj(dspf_vector *v);
+/* Real parts; a complex vector becomes real, capacity kept. */
+ZF_API int ZF_CALL dspi_real (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_real(dspf_vector *v);
+/* Imaginary parts, real result; a real vector becomes all zeros. */
+ZF_API int ZF_CALL dspi_imag (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_imag(dspf_vector *v);
+/* x * i; a real vector becomes complex (0, x). */
+ZF_API int ZF_CALL dspi_timesi (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_timesi(dspf_vector *v);
+/* Clips every scalar into [min(a, b), max(a, b)] (NaN kept); *clipped (may be null) = 1 if any changed. reserved is ignored. */
+ZF_API int ZF_CALL dspi_limit (dsp_vector  *v, int reserved, double a, double b, int *clipped);
+ZF_API int ZF_CALL dspfi_limit(dspf_vector *v, int reserved, float  a, float  b, int *clipped);
+/* cos x of a real vector; -1 for a complex one (unchanged), as all real-only functions below. */
+ZF_API int ZF_CALL dspi_cos (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_cos(dspf_vector *v);
+/* sin x. */
+ZF_API int ZF_CALL dspi_sin (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sin(dspf_vector *v);
+/* tan x. */
+ZF_API int ZF_CALL dspi_tan (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_tan(dspf_vector *v);
+/* arctan x. */
+ZF_API int ZF_CALL dspi_atan (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_atan(dspf_vector *v);
+/* arccos x for |x| <= 1, else 0. */
+ZF_API int ZF_CALL dspi_acos (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_acos(dspf_vector *v);
+/* arcsin x for |x| <= 1, else 0. */
+ZF_API int ZF_CALL dspi_asin (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_asin(dspf_vector *v);
+/* cosh x; 1e100 (1e15) when |x| exceeds 100 ln 10 (15 ln 10). */
+ZF_API int ZF_CALL dspi_cosh (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_cosh(dspf_vector *v);
+/* sinh x; +-1e100 (1e15) beyond +-100 ln 10 (15 ln 10). */
+ZF_API int ZF_CALL dspi_sinh (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sinh(dspf_vector *v);
+/* tanh x. */
+ZF_API int ZF_CALL dspi_tanh (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_tanh(dspf_vector *v);
+/* sin x / x, 1 at 0. */
+ZF_API int ZF_CALL dspi_sinc (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_sinc(dspf_vector *v);
+/* dst = |src| (hypot for complex), real, sized from src; dst may be src; src unchanged. */
+ZF_API int ZF_CALL dspu_mag (const dsp_vector  *src, dsp_vector  *dst);
+ZF_API int ZF_CALL dspfu_mag(const dspf_vector *src, dspf_vector *dst);
+/* dst = squared magnitude of src as dspi_magsq, real, sized from src; dst may be src. */
+ZF_API int ZF_CALL dspu_magsq (const dsp_vector  *src, dsp_vector  *dst);
+ZF_API int ZF_CALL dspfu_magsq(const dspf_vector *src, dspf_vector *dst);
+/* dst = square root of src as dspi_sqrt, same form as src, sized from src; dst may be src. */
+ZF_API int ZF_CALL dspu_sqrt (const dsp_vector  *src, dsp_vector  *dst);
+ZF_API int ZF_CALL dspfu_sqrt(const dspf_vector *src, dspf_vector *dst);
+
 /* ------------------------------------------------------------------------ */
 /* Binary operations                                                         */
 /* ------------------------------------------------------------------------ */
@@ -394,6 +506,34 @@ ZF_API int ZF_CALL dspfi_unwrap_wnd(dspf_vector *v, int w);
 /* ------------------------------------------------------------------------ */
 /* Special functions                                                         */
 /* ------------------------------------------------------------------------ */
+
+/* J0(x), Bessel function of the first kind of order 0; -1 for a complex vector (unchanged), as all below. */
+ZF_API int ZF_CALL dspi_besj0 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_besj0(dspf_vector *v);
+/* J1(x). */
+ZF_API int ZF_CALL dspi_besj1 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_besj1(dspf_vector *v);
+/* Y0(x), Bessel function of the second kind of order 0, for x > 0; 0 for x <= 0. */
+ZF_API int ZF_CALL dspi_besy0 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_besy0(dspf_vector *v);
+/* Y1(x) for x > 0; 0 for x <= 0. */
+ZF_API int ZF_CALL dspi_besy1 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_besy1(dspf_vector *v);
+/* I0(x), modified Bessel function of order 0; 1e100 (1e15) when |x| exceeds 100 ln 10 (15 ln 10). */
+ZF_API int ZF_CALL dspi_besi0 (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_besi0(dspf_vector *v);
+/* Reserved: not provided; returns -1 and changes nothing (as erfc, gamma, lgamma). */
+ZF_API int ZF_CALL dspi_erf (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_erf(dspf_vector *v);
+/* Reserved: returns -1. */
+ZF_API int ZF_CALL dspi_erfc (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_erfc(dspf_vector *v);
+/* Reserved: returns -1. */
+ZF_API int ZF_CALL dspi_gamma (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_gamma(dspf_vector *v);
+/* Reserved: returns -1. */
+ZF_API int ZF_CALL dspi_lgamma (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_lgamma(dspf_vector *v);
 
 /* ------------------------------------------------------------------------ */
 /* FFT                                                                       */

@@ -1,0 +1,186 @@
+#include <cmath>
+#include <cstring>
+
+#include "support/api_arith.hpp"
+#include "support/arith_ref.hpp"
+
+using namespace zt;
+using ref::CL;
+using ref::LD;
+
+template <class T> class ArithTest : public ::testing::Test {};
+TYPED_TEST_SUITE(ArithTest, Precisions);
+
+TYPED_TEST(ArithTest, MatchesReferenceOnRandomVectors) {
+    using T = TypeParam;
+    const CL w(0.5L, -1.5L);
+    check_all<T>({
+        {"abs", [](Vec<T>* v) { return api::abs(v); }, [](LD x) { return std::fabs(x); }, nullptr, nullptr, nullptr},
+        {"neg", [](Vec<T>* v) { return api::neg(v); }, [](LD x) { return -x; }, nullptr, [](CL z) { return -z; }, nullptr},
+        {"scale", [](Vec<T>* v) { return api::scale(v, T(-2.5)); }, [](LD x) { return x * -2.5L; }, nullptr,
+         [](CL z) { return z * -2.5L; }, nullptr},
+        {"cscale", [](Vec<T>* v) { return api::cscale(v, T(0.5), T(-1.5)); }, nullptr, [w](LD x) { return x * w; },
+         [w](CL z) { return z * w; }, nullptr},
+        {"offset", [](Vec<T>* v) { return api::offset(v, T(0.75)); }, [](LD x) { return x + 0.75L; }, nullptr,
+         [](CL z) { return z + 0.75L; }, nullptr},
+        {"recip", [](Vec<T>* v) { return api::recip(v); }, ref::recip<T>, nullptr, [](CL z) { return 1.0L / z; }, nullptr},
+        {"square", [](Vec<T>* v) { return api::square(v); }, ref::square<T>, nullptr, [](CL z) { return z * z; }, nullptr,
+         -1e3, 1e3},
+        {"sqrt", [](Vec<T>* v) { return api::sqrt(v); }, ref::sqrt, nullptr, [](CL z) { return std::sqrt(z); }, nullptr,
+         -4, 4},
+        {"conj", [](Vec<T>* v) { return api::conj(v); }, [](LD x) { return x; }, nullptr, [](CL z) { return std::conj(z); },
+         nullptr},
+        {"timesi", [](Vec<T>* v) { return api::timesi(v); }, nullptr, [](LD x) { return CL(0, x); },
+         [](CL z) { return z * CL(0, 1); }, nullptr},
+    });
+}
+
+TYPED_TEST(ArithTest, SaturatesAtTheGuardValue) {
+    using T = TypeParam;
+    const T huge = Traits<T>::huge;
+    // The float guard is the float nearest 1e15, not 1e15 itself.
+    EXPECT_EQ(static_cast<double>(huge), sizeof(T) == 4 ? 999999986991104.0 : 1e100);
+    Owned<T> r({T(0), T(-0.0), T(4)});
+    ASSERT_EQ(api::recip(r.get()), 0);
+    EXPECT_EQ(r.scalars(), (std::vector<T>{huge, huge, T(0.25)}));
+
+    // (0, 0) gives (0, -0); a part beyond the guard makes the squared magnitude huge.
+    Owned<T> c({T(0), T(0), huge * T(4), T(0)}, true);
+    ASSERT_EQ(api::recip(c.get()), 0);
+    const auto z = c.scalars();
+    EXPECT_EQ(z[0], T(0));
+    EXPECT_TRUE(std::signbit(z[1]));
+    EXPECT_NEAR(z[2], 4.0, 16 * tol<T>(1));
+    EXPECT_EQ(z[3], T(0));
+
+    Owned<T> s({huge, -huge * T(2), T(-3)});
+    ASSERT_EQ(api::square(s.get()), 0);
+    EXPECT_EQ(s.scalars(), (std::vector<T>{huge * huge, huge, T(9)}));
+    Owned<T> cs({huge * T(2), T(0)}, true);  // parts are clamped before squaring
+    ASSERT_EQ(api::square(cs.get()), 0);
+    EXPECT_EQ(cs.scalars(), (std::vector<T>{huge * huge, T(0)}));
+}
+
+TYPED_TEST(ArithTest, SqrtOfNegativesAndOrigin) {
+    using T = TypeParam;
+    Owned<T> r({T(-4), T(9)});
+    ASSERT_EQ(api::sqrt(r.get()), 0);
+    EXPECT_EQ(r.v.complex, 0);
+    EXPECT_EQ(r.scalars(), (std::vector<T>{T(0), T(3)}));
+    Owned<T> c({T(0), T(0), T(-4), T(0)}, true);
+    ASSERT_EQ(api::sqrt(c.get()), 0);
+    EXPECT_TRUE(near_all(c.scalars(), std::vector<double>{0, 0, 0, 2}, tol<T>()));
+}
+
+TYPED_TEST(ArithTest, OffsetTouchesOnlyRealParts) {
+    using T = TypeParam;
+    Owned<T> c({T(1), T(2), T(3), T(4)}, true);
+    ASSERT_EQ(api::offset(c.get(), T(10)), 0);
+    EXPECT_EQ(c.scalars(), (std::vector<T>{T(11), T(2), T(13), T(4)}));
+}
+
+TYPED_TEST(ArithTest, LimitClipsBothPartsWithBoundsInEitherOrder) {
+    using T = TypeParam;
+    const std::vector<T> in{T(-5), T(0.5), T(7), T(NAN), T(2), T(-2)};
+    for (bool high_first : {false, true}) {
+        Owned<T> v(in, true);
+        int clipped = -1;
+        ASSERT_EQ(high_first ? api::limit(v.get(), 99, T(2), T(-1), &clipped) : api::limit(v.get(), 0, T(-1), T(2), &clipped), 0);
+        const auto got = v.scalars();
+        EXPECT_EQ(got[0], T(-1));
+        EXPECT_EQ(got[1], T(0.5));
+        EXPECT_EQ(got[2], T(2));
+        EXPECT_TRUE(std::isnan(got[3]));
+        EXPECT_EQ(got[4], T(2));  // on the bound: not a change
+        EXPECT_EQ(got[5], T(-1));
+        EXPECT_EQ(clipped, 1);
+    }
+    Owned<T> inside({T(-1), T(0), T(2), T(NAN)});
+    int clipped = -1;
+    ASSERT_EQ(api::limit(inside.get(), 0, T(-1), T(2), &clipped), 0);
+    EXPECT_EQ(clipped, 0);
+    EXPECT_EQ(api::limit(inside.get(), 0, T(0), T(1), nullptr), 0);  // the flag is optional
+    EXPECT_EQ(inside.scalars()[2], T(1));
+    Owned<T> empty;
+    clipped = -1;
+    ASSERT_EQ(api::limit(empty.get(), 0, T(0), T(1), &clipped), 0);
+    EXPECT_EQ(clipped, 0);
+}
+
+// A real record wrapping the caller's array becomes complex in storage of its
+// own; the caller's array is left as it was.
+TYPED_TEST(ArithTest, SpreadingToComplexLeavesBorrowedStorageAlone) {
+    using T = TypeParam;
+    T mine[3] = {T(1), T(-2), T(3)};
+    Vec<T> v;
+    api::init(&v);
+    v.data = mine;
+    v.points = 3;
+    ASSERT_EQ(api::cscale(&v, T(2), T(1)), 0);
+    EXPECT_NE(v.data, mine);
+    EXPECT_EQ(v.complex, 1);
+    EXPECT_EQ(std::vector<T>(v.data, v.data + 6), (std::vector<T>{T(2), T(1), T(-4), T(-2), T(6), T(3)}));
+    EXPECT_EQ(mine[1], T(-2));
+    api::destroy(&v);
+
+    Owned<T> empty;  // no samples, yet it becomes complex
+    ASSERT_EQ(api::timesi(empty.get()), 0);
+    EXPECT_EQ(empty.v.complex, 1);
+}
+
+TYPED_TEST(ArithTest, SqrtIntoDestinationLeavesSourceAndMatchesInPlace) {
+    using T = TypeParam;
+    for (bool complex : {false, true}) {
+        const auto in = random_scalars<T>(complex ? 2 * 301 : 301, 5, -3, 3);
+        Owned<T> src(in, complex, T(0.125)), dst, self(in, complex, T(0.125)), expected(in, complex, T(0.125));
+        dst.v.type = 3;
+        ASSERT_EQ(api::sqrt(expected.get()), 0);
+        ASSERT_EQ(api::sqrt(src.get(), dst.get()), 0);
+        EXPECT_EQ(src.scalars(), in);
+        EXPECT_EQ(dst.v.points, 301);
+        EXPECT_EQ(dst.v.complex, complex ? 1 : 0);
+        EXPECT_EQ(dst.v.delta, T(0.125));
+        EXPECT_EQ(dst.v.type, 3);
+        EXPECT_EQ(dst.scalars(), expected.scalars());
+        ASSERT_EQ(api::sqrt(self.get(), self.get()), 0);
+        EXPECT_EQ(self.scalars(), expected.scalars());
+    }
+}
+
+// Every entry point refuses records it cannot read, before touching anything.
+TYPED_TEST(ArithTest, RefusesUnreadableRecords) {
+    using T = TypeParam;
+    std::vector<std::function<int(Vec<T>*)>> ops{
+        [](Vec<T>* v) { return api::abs(v); },    [](Vec<T>* v) { return api::neg(v); },
+        [](Vec<T>* v) { return api::scale(v, T(2)); }, [](Vec<T>* v) { return api::cscale(v, T(1), T(1)); },
+        [](Vec<T>* v) { return api::offset(v, T(1)); }, [](Vec<T>* v) { return api::recip(v); },
+        [](Vec<T>* v) { return api::square(v); }, [](Vec<T>* v) { return api::sqrt(v); },
+        [](Vec<T>* v) { return api::exp(v); },    [](Vec<T>* v) { return api::exp10(v); },
+        [](Vec<T>* v) { return api::log(v); },    [](Vec<T>* v) { return api::log10(v); },
+        [](Vec<T>* v) { return api::db(v, T(10)); }, [](Vec<T>* v) { return api::mag(v); },
+        [](Vec<T>* v) { return api::magsq(v); },  [](Vec<T>* v) { return api::phase(v); },
+        [](Vec<T>* v) { return api::rtoc(v); },   [](Vec<T>* v) { return api::rtop(v); },
+        [](Vec<T>* v) { return api::ptor(v); },   [](Vec<T>* v) { return api::conj(v); },
+        [](Vec<T>* v) { return api::real(v); },   [](Vec<T>* v) { return api::imag(v); },
+        [](Vec<T>* v) { return api::timesi(v); }, [](Vec<T>* v) { return api::limit(v, 0, T(0), T(1), nullptr); },
+        [](Vec<T>* v) { return api::cos(v); },    [](Vec<T>* v) { return api::sinc(v); },
+        [](Vec<T>* v) { return api::cosh(v); },   [](Vec<T>* v) { return api::besj0(v); },
+        [](Vec<T>* v) { return api::besi0(v); },
+        [](Vec<T>* v) { Owned<T> d; return api::mag(v, d.get()); },
+        [](Vec<T>* v) { Owned<T> d; return api::magsq(v, d.get()); },
+        [](Vec<T>* v) { Owned<T> d; return api::sqrt(v, d.get()); },
+    };
+    T storage[4] = {};
+    for (std::size_t i = 0; i < ops.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(ops[i](nullptr), -1);
+        Vec<T> negative{T(1), storage, 4, -1, 0, 0};
+        EXPECT_EQ(ops[i](&negative), -1);
+        Vec<T> no_data{T(1), nullptr, 0, 2, 0, 0};
+        EXPECT_EQ(ops[i](&no_data), -1);
+        Vec<T> too_small{T(1), storage, 2, 2, 1, 0};  // owns 2 scalars, needs 4
+        EXPECT_EQ(ops[i](&too_small), -1);
+    }
+    Owned<T> src({T(1)});
+    EXPECT_EQ(api::mag(src.get(), static_cast<Vec<T>*>(nullptr)), -1);
+}

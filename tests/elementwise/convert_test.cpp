@@ -1,0 +1,107 @@
+#include <cmath>
+
+#include "support/api_arith.hpp"
+#include "support/arith_ref.hpp"
+
+using namespace zt;
+using ref::CL;
+using ref::LD;
+
+template <class T> class ConvertTest : public ::testing::Test {};
+TYPED_TEST_SUITE(ConvertTest, Precisions);
+
+TYPED_TEST(ConvertTest, MatchesReferenceOnRandomVectors) {
+    using T = TypeParam;
+    const auto identity = [](LD x) { return x; };
+    check_all<T>({
+        {"rtoc", [](Vec<T>* v) { return api::rtoc(v); }, nullptr, [](LD x) { return CL(x, 0); }, [](CL z) { return z; }, nullptr},
+        {"rtop", [](Vec<T>* v) { return api::rtop(v); }, nullptr, ref::polar, [](CL z) { return CL(std::abs(z), std::arg(z)); },
+         nullptr, -3, 3},
+        {"ptor", [](Vec<T>* v) { return api::ptor(v); }, identity, nullptr, [](CL z) { return std::polar(z.real(), z.imag()); },
+         nullptr, -4, 4},
+        {"real", [](Vec<T>* v) { return api::real(v); }, identity, nullptr, nullptr, [](CL z) { return z.real(); }},
+        {"imag", [](Vec<T>* v) { return api::imag(v); }, [](LD) { return 0.0L; }, nullptr, nullptr, [](CL z) { return z.imag(); }},
+        {"mag", [](Vec<T>* v) { return api::mag(v); }, [](LD x) { return std::fabs(x); }, nullptr, nullptr,
+         [](CL z) { return std::abs(z); }, -1e4, 1e4},
+        {"magsq", [](Vec<T>* v) { return api::magsq(v); }, ref::square<T>, nullptr, nullptr, [](CL z) { return std::norm(z); },
+         -1e4, 1e4},
+        {"phase", [](Vec<T>* v) { return api::phase(v); }, ref::phase, nullptr, nullptr, [](CL z) { return std::arg(z); }},
+    });
+}
+
+TYPED_TEST(ConvertTest, PhaseOfSignedZerosAndTheOrigin) {
+    using T = TypeParam;
+    Owned<T> r({T(-0.0), T(0), T(-1e-30), T(2)});
+    ASSERT_EQ(api::phase(r.get()), 0);
+    EXPECT_EQ(r.scalars(), (std::vector<T>{T(0), T(0), Traits<T>::pi, T(0)}));
+    Owned<T> c({T(0), T(0), T(-0.0), T(-0.0), T(-1), T(0)}, true);
+    ASSERT_EQ(api::phase(c.get()), 0);
+    const auto got = c.scalars();
+    EXPECT_EQ(got[0], T(0));
+    EXPECT_EQ(got[1], T(0));  // atan2 would give -pi here
+    EXPECT_FALSE(std::signbit(got[1]));
+    EXPECT_NEAR(got[2], 3.141592653589793, 4 * tol<T>());
+}
+
+TYPED_TEST(ConvertTest, MagnitudeSquaredSaturates) {
+    using T = TypeParam;
+    const T huge = Traits<T>::huge;
+    Owned<T> c({huge * T(2), T(0), T(3), T(4), huge, huge}, true);
+    ASSERT_EQ(api::magsq(c.get()), 0);
+    EXPECT_EQ(c.scalars(), (std::vector<T>{huge, T(25), huge * huge * T(2)}));
+}
+
+TYPED_TEST(ConvertTest, PolarRoundTripRestoresTheVector) {
+    using T = TypeParam;
+    for (bool complex : {false, true}) {
+        const auto in = random_scalars<T>(complex ? 2 * 257 : 257, 11, -5, 5);
+        Owned<T> v(in, complex);
+        ASSERT_EQ(api::rtop(v.get()), 0);
+        ASSERT_EQ(api::ptor(v.get()), 0);
+        Owned<T> want(in, complex);
+        ASSERT_EQ(api::rtoc(want.get()), 0);
+        EXPECT_TRUE(near_all(v.scalars(), want.scalars(), tol<T>(16) * 5));
+    }
+}
+
+// dspu_mag and dspu_magsq: distinct destination sized from the source (which
+// stays as it was), the destination being the source record itself, and a
+// destination that shares the source's storage.
+TYPED_TEST(ConvertTest, IntoDestinationHandlesAliasing) {
+    using T = TypeParam;
+    using Op = int (*)(const Vec<T>*, Vec<T>*);
+    using InPlace = int (*)(Vec<T>*);
+    const std::pair<Op, InPlace> ops[] = {{api::mag, api::mag}, {api::magsq, api::magsq}};
+    for (auto [into, in_place] : ops) {
+        for (bool complex : {false, true}) {
+            const auto in = random_scalars<T>(complex ? 2 * 1001 : 1001, 3, -2, 2);
+            Owned<T> expected(in, complex, T(0.5));
+            ASSERT_EQ(in_place(expected.get()), 0);
+
+            Owned<T> src(in, complex, T(0.5)), dst;
+            dst.v.type = 9;
+            ASSERT_EQ(into(src.get(), dst.get()), 0);
+            EXPECT_EQ(src.scalars(), in);
+            EXPECT_EQ(src.v.complex, complex ? 1 : 0);
+            EXPECT_EQ(dst.v.points, 1001);
+            EXPECT_EQ(dst.v.complex, 0);
+            EXPECT_EQ(dst.v.delta, T(0.5));
+            EXPECT_EQ(dst.v.type, 9);
+            EXPECT_EQ(dst.scalars(), expected.scalars());
+
+            Owned<T> self(in, complex, T(0.5));
+            const int capacity = self.v.alloc;
+            ASSERT_EQ(into(self.get(), self.get()), 0);
+            EXPECT_EQ(self.v.alloc, capacity);
+            EXPECT_EQ(self.scalars(), expected.scalars());
+
+            // a second record wrapping the source's block
+            Owned<T> owner(in, complex, T(0.5));
+            Vec<T> view = owner.v;
+            view.alloc = 0;
+            ASSERT_EQ(into(owner.get(), &view), 0);
+            EXPECT_EQ(std::vector<T>(view.data, view.data + 1001), expected.scalars());
+            if (view.data != owner.v.data) api::destroy(&view);
+        }
+    }
+}

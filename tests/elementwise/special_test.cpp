@@ -1,0 +1,65 @@
+#include <cmath>
+
+#include "elementwise/special.hpp"
+#include "support/api_arith.hpp"
+#include "support/arith_ref.hpp"
+
+using namespace zt;
+using ref::LD;
+
+template <class T> class SpecialTest : public ::testing::Test {};
+TYPED_TEST_SUITE(SpecialTest, Precisions);
+
+TYPED_TEST(SpecialTest, MatchesReferenceOnRandomVectors) {
+    using T = TypeParam;
+    auto real = [](std::string name, int (*run)(Vec<T>*), std::function<LD(LD)> f, double lo, double hi, double ulps) {
+        return Unary<T>{name, run, f, nullptr, nullptr, nullptr, lo, hi, ulps};
+    };
+    const double i0_range = sizeof(T) == 4 ? 30 : 200;
+    check_all<T>({
+        real("besj0", api::besj0, [](LD x) { return j0l(x); }, -30, 30, 64),
+        real("besj1", api::besj1, [](LD x) { return j1l(x); }, -30, 30, 64),
+        real("besy0", api::besy0, [](LD x) { return x > 0 ? y0l(x) : 0; }, -5, 30, 64),
+        real("besy1", api::besy1, [](LD x) { return x > 0 ? y1l(x) : 0; }, -5, 30, 64),
+        real("besi0", api::besi0, ref::besi0<T>, -i0_range, i0_range, 16),
+    });
+}
+
+// The shared evaluation against the series in extended precision, on both
+// sides of the switch to the asymptotic form at 20.
+TEST(BesselI0, AgreesWithTheSeriesAcrossTheWholeRange) {
+    for (double x = 0; x <= 230; x += 0.37) {
+        const LD want = ref::bessel_i0(x);
+        EXPECT_NEAR(zf::bessel_i0(x) / want, 1.0L, 1e-14) << x;
+        EXPECT_EQ(zf::bessel_i0(-x), zf::bessel_i0(x));
+    }
+    EXPECT_EQ(zf::bessel_i0(0), 1.0);
+    EXPECT_NEAR(zf::bessel_i0(20.000001) / zf::bessel_i0(20), 1.0, 2e-6);
+}
+
+TYPED_TEST(SpecialTest, GuardsAndZeroArguments) {
+    using T = TypeParam;
+    const T above = sizeof(T) == 4 ? T(35) : T(231);
+    Owned<T> i({T(0), above, -above});
+    ASSERT_EQ(api::besi0(i.get()), 0);
+    EXPECT_EQ(i.scalars(), (std::vector<T>{T(1), Traits<T>::huge, Traits<T>::huge}));
+    Owned<T> y({T(0), T(-1)});
+    ASSERT_EQ(api::besy0(y.get()), 0);
+    EXPECT_EQ(y.scalars(), (std::vector<T>{T(0), T(0)}));
+    ASSERT_EQ(api::besy1(y.get()), 0);
+    EXPECT_EQ(y.scalars(), (std::vector<T>{T(0), T(0)}));
+}
+
+TYPED_TEST(SpecialTest, ReservedEntryPointsChangeNothing) {
+    using T = TypeParam;
+    int (*reserved[])(Vec<T>*) = {api::erf, api::erfc, api::gamma, api::lgamma};
+    for (auto f : reserved) {
+        for (bool complex : {false, true}) {
+            const std::vector<T> in{T(0.5), T(-1), T(2), T(3)};
+            Owned<T> v(in, complex);
+            EXPECT_EQ(f(v.get()), -1);
+            EXPECT_EQ(v.scalars(), in);
+        }
+        EXPECT_EQ(f(nullptr), -1);
+    }
+}

@@ -1,0 +1,136 @@
+// Plain references for the one-input element-wise operations, in long double
+// and std::complex<long double> (textbook formulas, the guards written out),
+// and a check that runs an operation through the C interface on random vectors
+// against them.
+#pragma once
+
+#include <cmath>
+#include <complex>
+#include <functional>
+#include <string>
+
+#include "support/vectors.hpp"
+
+namespace ref {
+
+using LD = long double;
+using CL = std::complex<long double>;
+
+template <class T> inline LD huge() { return static_cast<LD>(zf::Traits<T>::huge); }
+template <class T> inline LD tiny() { return static_cast<LD>(zf::Traits<T>::tiny); }
+template <class T> inline LD exp_limit() { return static_cast<LD>(zf::Traits<T>::exp_limit); }
+inline constexpr LD pi = 3.141592653589793238462643383279502884L;
+inline constexpr LD ln10 = 2.302585092994045684017991454684364208L;
+
+template <class T> LD recip(LD x) { return x == 0 ? huge<T>() : 1 / x; }
+template <class T> LD square(LD x) { return std::fabs(x) <= huge<T>() ? x * x : huge<T>(); }
+inline LD sqrt(LD x) { return x >= 0 ? std::sqrt(x) : 0; }
+template <class T> LD exp(LD x) { return x > exp_limit<T>() ? huge<T>() : std::exp(x); }
+template <class T> LD exp10(LD x) { return x > zf::Traits<T>::exp10_limit ? huge<T>() : std::pow(10.0L, x); }
+template <class T> LD log(LD x) { return std::log(x >= tiny<T>() ? x : tiny<T>()); }
+template <class T> LD db(LD x, LD factor) { return factor * std::log10(x >= tiny<T>() ? x : tiny<T>()); }
+inline LD phase(LD x) { return x >= 0 ? 0 : pi; }
+inline CL polar(LD x) { return {std::fabs(x), phase(x)}; }
+inline LD inverse_trig(LD x, LD (*f)(LD)) { return std::fabs(x) <= 1 ? f(x) : 0; }
+template <class T> LD cosh(LD x) { return std::fabs(x) > exp_limit<T>() ? huge<T>() : std::cosh(x); }
+template <class T> LD sinh(LD x) {
+    return x > exp_limit<T>() ? huge<T>() : (x < -exp_limit<T>() ? -huge<T>() : std::sinh(x));
+}
+inline LD sinc(LD x) { return x == 0 ? 1 : std::sin(x) / x; }
+
+// I0 by its power series summed until the terms no longer count.
+inline LD bessel_i0(LD x) {
+    const LD t = x * x / 4;
+    LD term = 1, sum = 1;
+    for (int k = 1; term > sum * 1e-22L; ++k) {
+        term *= t / (static_cast<LD>(k) * k);
+        sum += term;
+    }
+    return sum;
+}
+template <class T> LD besi0(LD x) { return std::fabs(x) > exp_limit<T>() ? huge<T>() : bessel_i0(x); }
+
+}  // namespace ref
+
+namespace zt {
+
+// One operation and its references: a real input goes through real (real
+// result) or to_complex (complex result); a complex input through cplx
+// (complex result) or to_real (real result). With neither of the last two the
+// operation refuses complex input.
+template <class T> struct Unary {
+    std::string name;
+    std::function<int(Vec<T>*)> run;
+    std::function<ref::LD(ref::LD)> real;
+    std::function<ref::CL(ref::LD)> to_complex;
+    std::function<ref::CL(ref::CL)> cplx;
+    std::function<ref::LD(ref::CL)> to_real;
+    double lo = -1, hi = 1;  // range of the random scalars
+    double ulps = 8;         // tolerance in units of the precision's epsilon
+};
+
+// Runs the operation on n random samples of the given form and compares the
+// result (values, form, points, capacity, delta, type) with the reference.
+template <class T>
+::testing::AssertionResult check_unary(const Unary<T>& c, int n, bool complex, unsigned seed) {
+    using ref::CL;
+    using ref::LD;
+    const std::vector<T> in = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), seed, c.lo, c.hi);
+    Owned<T> o(in, complex, T(0.25));
+    o.v.type = 42;
+    const int capacity = o.v.alloc;
+    const int status = c.run(o.get());
+    auto fail = [&]() { return ::testing::AssertionFailure() << c.name << " n=" << n << " complex=" << complex << ": "; };
+    if (complex && !c.cplx && !c.to_real) {
+        if (status != -1) return fail() << "complex input not refused";
+        if (o.v.complex != 1 || o.scalars() != in) return fail() << "refused input was changed";
+        return ::testing::AssertionSuccess();
+    }
+    if (status != 0) return fail() << "status " << status;
+    std::vector<LD> want;
+    bool want_complex = false;
+    for (int k = 0; k < n; ++k) {
+        CL z;
+        bool z_complex = true;
+        if (!complex && c.real) { want.push_back(c.real(in[k])); z_complex = false; }
+        else if (!complex) z = c.to_complex(in[k]);
+        else if (c.cplx) z = c.cplx(CL(in[2 * k], in[2 * k + 1]));
+        else { want.push_back(c.to_real(CL(in[2 * k], in[2 * k + 1]))); z_complex = false; }
+        if (z_complex) { want.push_back(z.real()); want.push_back(z.imag()); }
+        want_complex = z_complex;
+    }
+    if (n == 0) want_complex = complex ? static_cast<bool>(c.cplx) : !c.real;
+    if ((o.v.complex != 0) != want_complex) return fail() << "complex flag " << o.v.complex;
+    if (o.v.points != n || o.v.delta != T(0.25) || o.v.type != 42) return fail() << "shape or tags changed";
+    if (o.v.alloc < capacity) return fail() << "capacity shrank";
+    const std::vector<T> got = o.scalars();
+    const double tol = c.ulps * static_cast<double>(Traits<T>::eps);
+    const std::size_t step = want_complex ? 2 : 1;
+    for (std::size_t i = 0; i < want.size(); i += step) {
+        // A pair is compared relative to its magnitude: its small part carries
+        // the absolute error of the large one.
+        LD scale = 1;
+        for (std::size_t j = 0; j < step; ++j) scale = std::fmax(scale, std::fabs(want[i + j]));
+        for (std::size_t j = 0; j < step; ++j)
+            if (!(std::fabs(static_cast<LD>(got[i + j]) - want[i + j]) <= tol * scale))
+                return fail() << "scalar " << i + j << " of input " << in[i / step * (complex ? 2 : 1)]
+                              << ": " << got[i + j] << " != " << static_cast<double>(want[i + j]);
+    }
+    return ::testing::AssertionSuccess();
+}
+
+// The lengths every operation is run at: empty, tiny, around a power of two
+// (vector blocks and tails) and one longer run.
+inline const std::vector<int>& lengths() {
+    static const std::vector<int> n{0, 1, 2, 3, 2047, 2048, 2049, 10000};
+    return n;
+}
+
+template <class T> void check_all(const std::vector<Unary<T>>& cases) {
+    unsigned seed = 1;
+    for (const auto& c : cases)
+        for (int n : lengths())
+            for (bool complex : {false, true}) EXPECT_TRUE(check_unary<T>(c, n, complex, ++seed));
+}
+
+}  // namespace zt
