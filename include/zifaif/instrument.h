@@ -21,8 +21,10 @@ extern "C" {
  * are [start, stop) by point index and every output is caller-sized. The float
  * twins compute in double and round each stored value once. These routines
  * trust their arguments, except that a null pointer, a negative start or a
- * reversed range never makes them touch memory: they then write nothing and
- * return the value named below (-1 from the searches, 0 from FindMinMax). */
+ * reversed range never makes them read or write outside the arrays: they then
+ * write nothing and answer as named below. The searches answer start without
+ * reading when their range holds at most one value, and -1 (FindMinMax 0) for
+ * null data or a negative start. */
 
 /* data[i] *= factor for i in [0, n); nothing for n <= 0. */
 ZF_API void ZF_CDECL vfpdbMul(double factor, double *data, int n);
@@ -100,8 +102,9 @@ ZF_API int ZF_CDECL vfp_ByteSwapDummy(void *buf, int nbytes, unsigned width);
  * aperture or a null array. */
 
 /* Real trace, or phase trace in radians (phase non-zero: each window unwrapped
- * locally, the mean wrapped to [-pi, pi]); edge non-zero keeps the full window
- * with clamped indices at the trace ends instead of shrinking it. */
+ * locally, the mean wrapped to [-pi, pi]). edge non-zero keeps the full window
+ * with indices clamped to [0, stop - 1] instead of shrinking it near the trace
+ * ends, and then finishes a range that ends at the trace end. */
 ZF_API int ZF_CDECL vfpd_Smooth(const double *src, double *dst, int total, int start, int stop, int aperture, int phase, int edge);
 ZF_API int ZF_CDECL vfps_Smooth(const float *src, float *dst, int total, int start, int stop, int aperture, int phase, int edge);
 /* Complex trace as mean magnitude and mean atan2(re, im) angle (a lone point
