@@ -62,8 +62,9 @@ int apply_enhanced_response(const Cx* directivity, const Cx* source_match, const
     if (!directivity || !source_match || !tracking || !transmission_tracking || !measured_s11 ||
         !measured_s21)
         return 0;
-    if (!runnable(start, stop)) return range_result(start, stop);
     const bool with_load = (use_load_match & 0xFF) != 0;
+    if (with_load && !load_match) return 0;
+    if (!runnable(start, stop)) return range_result(start, stop);
     for (int j = start; j < stop; ++j) {
         const Cx d = measured_s11[j] - directivity[j];
         const Cx s = tracking[j] + source_match[j] * d;
