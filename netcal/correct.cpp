@@ -107,10 +107,12 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept {
     if (!t.offset[0] || !t.offset[3]) return 0;
     if (!runnable(start, stop)) return range_result(start, stop);
     int j = start;
-    if (have_avx2()) {
+    void (*const x8)(const TwoPortArrays&, int) noexcept =
+        have_avx512() ? correct_2port_x8_avx512 : have_avx2() ? correct_2port_x8_avx2 : nullptr;
+    if (x8) {
         for (; stop - j >= 8; j += 8) {
             RoundingGuard guard;
-            correct_2port_x8_avx2(t, j);
+            x8(t, j);
         }
     }
     correct_2port_portable(t, j, stop);
@@ -120,6 +122,14 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept {
 bool have_avx2() noexcept {
 #if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
     return __builtin_cpu_supports("avx2");
+#else
+    return false;
+#endif
+}
+
+bool have_avx512() noexcept {
+#if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
+    return __builtin_cpu_supports("avx512f");
 #else
     return false;
 #endif
