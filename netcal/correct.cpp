@@ -119,20 +119,12 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept {
     return stop - start;
 }
 
-bool have_avx2() noexcept {
 #if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
-    return __builtin_cpu_supports("avx2");
+bool have_avx2() noexcept { return __builtin_cpu_supports("avx2"); }
+bool have_avx512() noexcept { return __builtin_cpu_supports("avx512f"); }
 #else
-    return false;
+bool have_avx2() noexcept { return false; }
+bool have_avx512() noexcept { return false; }
 #endif
-}
-
-bool have_avx512() noexcept {
-#if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
-    return __builtin_cpu_supports("avx512f");
-#else
-    return false;
-#endif
-}
 
 }  // namespace zf
