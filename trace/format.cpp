@@ -22,7 +22,7 @@ constexpr double kSwrLimit = 1000000.0;
 
 // dst[i] = f(re, im) for the complex points [start, stop) of src.
 template <class T, class F> void per_point(const T* src, T* dst, int start, int stop, F f) noexcept {
-    for (int i = start; i < stop; ++i) {
+    for (long long i = start; i < stop; ++i) {
         const double re = static_cast<double>(src[2 * i]), im = static_cast<double>(src[2 * i + 1]);
         dst[i] = static_cast<T>(f(re, im));
     }
@@ -40,7 +40,7 @@ template <class T> int unwrap_phase(const T* src, int start, int stop, T* dst, i
     double turns = 0.0;
     if (start > 1)
         turns = std::trunc((static_cast<double>(dst[start - 1]) - static_cast<double>(dst[0])) / full_turn);
-    for (int i = start; i != stop; ++i) {
+    for (long long i = start; i != stop; ++i) {
         const double re = static_cast<double>(src[2 * i]), im = static_cast<double>(src[2 * i + 1]);
         dst[i] = static_cast<T>((std::atan2(im, re) + turns * kTwoPi) * k);
         if (i > 0) {

@@ -138,8 +138,9 @@ template <class T> int smooth_cpx(const T* src, T* dst, int total, int start, in
             sum_ang += swapped_angle(src + 2 * hi);
         }
         const double m = sum_mag / static_cast<double>(size), a = sum_ang / static_cast<double>(size);
-        dst[2 * i] = static_cast<T>(m * std::cos(a));
-        dst[2 * i + 1] = static_cast<T>(m * std::sin(a));
+        T* out = dst + 2 * static_cast<long long>(i);
+        out[0] = static_cast<T>(m * std::cos(a));
+        out[1] = static_cast<T>(m * std::sin(a));
     }
     return i - start;
 }

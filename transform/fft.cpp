@@ -69,6 +69,34 @@ template <class T> void join_real(T* x, std::ptrdiff_t n, const T* tw) noexcept 
     x[h + 1] *= T(-2);
 }
 
+// Everything a transform of n complex points on the table of length tn needs,
+// fetched (and built) before the vector is touched.
+template <class T> struct Plan {
+    const T* tw = nullptr;
+    const T* levels = nullptr;   // for the vector kernel, when there is one
+    VectorDifFn<T> vec = nullptr;
+    const std::int32_t* swaps = nullptr;
+    const std::int32_t* fixed = nullptr;
+
+    bool prepare(int n, int tn, int bits) noexcept {
+        tw = twiddles<T>(tn);
+        swaps = swap_list<T>(bits);
+        fixed = fixed_list<T>(bits);
+        if (!tw || !swaps || !fixed) return false;
+        vec = n >= 4 ? vector_dif<T>() : nullptr;
+        if (vec) {
+            levels = level_twiddles<T>(n, tw, tn, vector_width<T>());
+            if (!levels) return false;
+        }
+        return true;
+    }
+    // The butterflies of n points (natural order in, bit-reversed out).
+    void run(T* x, int n, int tn, bool inverse) const noexcept {
+        if (vec) vec(x, n, levels, inverse);
+        else dif<T>(x, n, tw, tn / n, inverse);
+    }
+};
+
 }  // namespace
 
 int log2_exact(int n) noexcept {
@@ -104,14 +132,12 @@ template <class T> int fft(Vec<T>* v, int direction) noexcept {
         invert_delta<T>(*v, n);
         return 0;
     }
-    const T* tw = twiddles<T>(n);
-    const std::int32_t* swaps = swap_list<T>(bits);
-    const std::int32_t* fixed = fixed_list<T>(bits);
-    if (!tw || !swaps || !fixed) return -1;
+    Plan<T> plan;
+    if (!plan.prepare(n, n, bits)) return -1;
     if (!v->complex && widen<T>(*v) != 0) return -1;
-    dif<T>(v->data, n, tw, 1, inverse);
-    if (inverse) swap_pairs<T>(v->data, swaps, 2);
-    else swap_pairs_scale<T>(v->data, swaps, fixed, 2, T(1) / static_cast<T>(n));
+    plan.run(v->data, n, n, inverse);
+    if (inverse) swap_pairs<T>(v->data, plan.swaps, 2);
+    else swap_pairs_scale<T>(v->data, plan.swaps, plan.fixed, 2, T(1) / static_cast<T>(n));
     invert_delta<T>(*v, n);
     return 0;
 }
@@ -137,17 +163,15 @@ template <class T> int rfft(Vec<T>* v) noexcept {
         invert_delta<T>(*v, n);
         return 0;
     }
-    const T* tw = twiddles<T>(n);
-    const std::int32_t* swaps = swap_list<T>(bits - 1);
-    const std::int32_t* fixed = fixed_list<T>(bits - 1);
-    if (!tw || !swaps || !fixed) return -1;
+    Plan<T> plan;
+    if (!plan.prepare(n / 2, n, bits - 1)) return -1;
     // Room for n complex pairs; the samples stay where they are.
     v->complex = 1;
     if (zf::realloc<T>(v, n, 0) != 0) return -1;
     T* x = v->data;
-    dif<T>(x, n / 2, tw, 2, false);
-    swap_pairs_scale<T>(x, swaps, fixed, 2, T(1) / static_cast<T>(n));
-    split_real<T>(x, n, tw);
+    plan.run(x, n / 2, n, false);
+    swap_pairs_scale<T>(x, plan.swaps, plan.fixed, 2, T(1) / static_cast<T>(n));
+    split_real<T>(x, n, plan.tw);
     v->points = n / 2 + 1;
     invert_delta<T>(*v, n);
     return 0;
@@ -175,14 +199,13 @@ template <class T> int irfft(Vec<T>* v) noexcept {
     const int n = 2 * (m - 1);
     const int bits = log2_exact(n);
     if (bits < 0) return -1;
-    const T* tw = twiddles<T>(n);
-    const std::int32_t* swaps = swap_list<T>(bits - 1);
-    if (!tw || !swaps) return -1;
+    Plan<T> plan;
+    if (!plan.prepare(n / 2, n, bits - 1)) return -1;
     if (!v->complex && widen<T>(*v) != 0) return -1;
     T* x = v->data;
-    join_real<T>(x, n, tw);
-    dif<T>(x, n / 2, tw, 2, true);
-    swap_pairs<T>(x, swaps, 2);
+    join_real<T>(x, n, plan.tw);
+    plan.run(x, n / 2, n, true);
+    swap_pairs<T>(x, plan.swaps, 2);
     v->complex = 0;
     v->points = n;
     invert_delta<T>(*v, n);

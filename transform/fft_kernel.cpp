@@ -83,6 +83,26 @@ template <class T> void dif(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t 
     dif_portable(x, n, tw, stride, inverse);
 }
 
+namespace {
+bool has_avx2() noexcept {
+#if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
+    __builtin_cpu_init();
+    return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma");
+#else
+    return false;
+#endif
+}
+template <class T> VectorDifFn<T> choose() noexcept {
+    if (has_avx2()) return static_cast<VectorDifFn<T>>(&dif_avx2);
+    return nullptr;
+}
+}  // namespace
+
+template <class T> VectorDifFn<T> vector_dif() noexcept {
+    static const VectorDifFn<T> chosen = choose<T>();   // decided once
+    return chosen;
+}
+
 template <class T> void swap_pairs(T* x, const std::int32_t* p, int width) noexcept {
     if (width == 2) {
         for (; p[0] != 0; p += 2) {
@@ -127,11 +147,13 @@ template <class T> void swap_pairs_scale(T* x, const std::int32_t* p, const std:
 
 template void dif<double>(double*, std::ptrdiff_t, const double*, std::ptrdiff_t, bool) noexcept;
 template void dif_portable<double>(double*, std::ptrdiff_t, const double*, std::ptrdiff_t, bool) noexcept;
+template VectorDifFn<double> vector_dif<double>() noexcept;
 template void swap_pairs<double>(double*, const std::int32_t*, int) noexcept;
 template void swap_pairs_scale<double>(double*, const std::int32_t*, const std::int32_t*, int, double) noexcept;
 
 template void dif<float>(float*, std::ptrdiff_t, const float*, std::ptrdiff_t, bool) noexcept;
 template void dif_portable<float>(float*, std::ptrdiff_t, const float*, std::ptrdiff_t, bool) noexcept;
+template VectorDifFn<float> vector_dif<float>() noexcept;
 template void swap_pairs<float>(float*, const std::int32_t*, int) noexcept;
 template void swap_pairs_scale<float>(float*, const std::int32_t*, const std::int32_t*, int, float) noexcept;
 

@@ -16,6 +16,17 @@ namespace zf {
 template <class T> void dif(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept;
 template <class T> void dif_portable(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept;
 
+// The vectorised transform: as dif with stride 1, for n >= 4, on the level
+// twiddles lv (tables.hpp) of width vector_width<T>(). Null when the machine
+// lacks the instruction set; chosen once.
+template <class T> using VectorDifFn = void (*)(T* x, std::ptrdiff_t n, const T* lv, bool inverse) noexcept;
+template <class T> VectorDifFn<T> vector_dif() noexcept;
+template <class T> constexpr int vector_width() noexcept { return 32 / (2 * static_cast<int>(sizeof(T))); }
+
+// The AVX2/FMA kernels (fft_avx2.cpp); call only when the processor has both.
+void dif_avx2(double* x, std::ptrdiff_t n, const double* lv, bool inverse) noexcept;
+void dif_avx2(float* x, std::ptrdiff_t n, const float* lv, bool inverse) noexcept;
+
 // Exchanges the elements of every pair of a swap list (width scalars each).
 template <class T> void swap_pairs(T* x, const std::int32_t* swaps, int width) noexcept;
 // The same, multiplying both by f, then multiplies every fixed point by f.

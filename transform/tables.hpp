@@ -29,6 +29,17 @@ template <class T> const TableCache<T>& twiddle_cache() noexcept;
 // Frees every twiddle table and the pair array; the next transform rebuilds.
 template <class T> int release_twiddles() noexcept;
 
+// Level twiddles of the vector kernels, which rotate w complex values at a
+// time: for every block size m = 4w, 8w, ... up to n, in increasing order, the
+// rotations w_m^k and w_m^3k (k < m/4) of the table tw of length tn regrouped
+// for the registers: per group of w values, c duplicated for the real and
+// imaginary lane, then the pair (sin - cos, -cos - sin) of the forward
+// rotation, for the angle and for three times the angle (8w scalars per group,
+// 2m per level, so level m starts at scalar 2(m - 4w) whatever n is). One
+// buffer per precision, grown to the longest transform seen; released with the
+// twiddle tables. Null on allocation failure.
+template <class T> const T* level_twiddles(int n, const T* tw, int tn, int w) noexcept;
+
 // The fixed-point list ends with this value (0 is a fixed point itself).
 constexpr std::int32_t fixed_end = 0x12345678;
 

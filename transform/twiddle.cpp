@@ -11,6 +11,14 @@ namespace {
 
 template <class T> TableCache<T> cache;   // zero-initialised, trivially destructible
 
+// The level twiddles: levels 4w .. top filled.
+template <class T> struct Levels {
+    T* data;
+    int top;
+    int width;
+};
+template <class T> Levels<T> levels;
+
 // Writes one triple (cos t, -cos t - sin t, sin t - cos t), each rounded once.
 template <class T> void put(T* e, long double c, long double s) noexcept {
     e[0] = static_cast<T>(c);
@@ -95,17 +103,51 @@ template <class T> const T* twiddles(int n) noexcept {
 
 template <class T> const TableCache<T>& twiddle_cache() noexcept { return cache<T>; }
 
+template <class T> const T* level_twiddles(int n, const T* tw, int tn, int w) noexcept {
+    Levels<T>& L = levels<T>;
+    if (L.data && L.width == w && L.top >= n) return L.data;
+    if (n < 4 * w) return L.data ? L.data : tw;   // no level needed
+    if (L.width != w) L.top = 0;
+    const std::size_t size = 4 * static_cast<std::size_t>(n) - 8 * static_cast<std::size_t>(w);
+    T* grown = static_cast<T*>(std::realloc(L.data, size * sizeof(T)));
+    if (!grown) return nullptr;
+    L.data = grown;
+    L.width = w;
+    for (int m = L.top ? 2 * L.top : 4 * w; m <= n; m *= 2) {
+        T* out = grown + 2 * static_cast<std::size_t>(m - 4 * w);
+        const std::size_t stride = static_cast<std::size_t>(tn / m);
+        for (int g = 0; g < m / 4; g += w, out += 8 * w) {
+            for (int l = 0; l < w; ++l) {
+                const T* e = tw + 6 * (g + l) * stride;
+                for (int r = 0; r < 2; ++r) {
+                    T* o = out + 4 * w * r;
+                    o[2 * l] = o[2 * l + 1] = e[3 * r];
+                    o[2 * w + 2 * l] = e[3 * r + 2];
+                    o[2 * w + 2 * l + 1] = e[3 * r + 1];
+                }
+            }
+        }
+    }
+    L.top = n;
+    register_cache<T>(CacheSlot::twiddle, &release_twiddles<T>);
+    return grown;
+}
+
 template <class T> int release_twiddles() noexcept {
     clear_tables(cache<T>);
+    std::free(levels<T>.data);
+    levels<T> = Levels<T>{};
     return 0;
 }
 
 template const double* twiddles<double>(int) noexcept;
 template const TableCache<double>& twiddle_cache<double>() noexcept;
 template int release_twiddles<double>() noexcept;
+template const double* level_twiddles<double>(int, const double*, int, int) noexcept;
 
 template const float* twiddles<float>(int) noexcept;
 template const TableCache<float>& twiddle_cache<float>() noexcept;
 template int release_twiddles<float>() noexcept;
+template const float* level_twiddles<float>(int, const float*, int, int) noexcept;
 
 }  // namespace zf

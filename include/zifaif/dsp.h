@@ -575,6 +575,55 @@ ZF_API int ZF_CDECL cf_dspi_fft(double *data, int points, int complex, int direc
 /* Descriptive statistics                                                    */
 /* ------------------------------------------------------------------------ */
 
+/* Each writes its result into out as a vector of one point, sized with
+ * dsp_alloc (delta untouched); out may be the input record itself. */
+/* Sum of the samples (parts separately), in blocks of 2048; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_sum (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_sum(const dspf_vector *in, dspf_vector *out);
+/* Sum divided by the count, each part; one point, complex as the input; 0 when empty. */
+ZF_API int ZF_CALL dsps_mean (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_mean(const dspf_vector *in, dspf_vector *out);
+/* Smallest sample (complex: of smallest |z|^2), at most 1e100 / 1e15; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_min (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_min(const dspf_vector *in, dspf_vector *out);
+/* Largest sample (complex: of largest |z|^2); one point, complex as the input. */
+ZF_API int ZF_CALL dsps_max (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_max(const dspf_vector *in, dspf_vector *out);
+/* Middle of the sorted samples (mean of the two middle ones for an even count; complex
+ * samples in the order of dspi_sort); one point, complex as the input. */
+ZF_API int ZF_CALL dsps_median (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_median(const dspf_vector *in, dspf_vector *out);
+/* Sum of x^2 or re^2 + im^2, each term at most the guard; one real point. */
+ZF_API int ZF_CALL dsps_magsq_sum (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_magsq_sum(const dspf_vector *in, dspf_vector *out);
+/* Square root of magsq_sum / count; one real point. */
+ZF_API int ZF_CALL dsps_rms (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_rms(const dspf_vector *in, dspf_vector *out);
+/* Population variance, real and imaginary parts pooled; one real point. */
+ZF_API int ZF_CALL dsps_pop_var (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_pop_var(const dspf_vector *in, dspf_vector *out);
+/* pop_var * n / (n - 1) for n >= 2, else pop_var; one real point. */
+ZF_API int ZF_CALL dsps_samp_var (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_samp_var(const dspf_vector *in, dspf_vector *out);
+/* Square root of pop_var; one real point. */
+ZF_API int ZF_CALL dsps_pop_stddev (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_pop_stddev(const dspf_vector *in, dspf_vector *out);
+/* Square root of samp_var; one real point. */
+ZF_API int ZF_CALL dsps_samp_stddev (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_samp_stddev(const dspf_vector *in, dspf_vector *out);
+/* Skewness; -1 for complex input (output untouched); one real point, 0 when empty. */
+ZF_API int ZF_CALL dsps_skew (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_skew(const dspf_vector *in, dspf_vector *out);
+/* Excess kurtosis; -1 for complex input (output untouched); one real point, -3 when empty. */
+ZF_API int ZF_CALL dsps_excess (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_excess(const dspf_vector *in, dspf_vector *out);
+/* Geometric mean (complex: principal n-th root of the product), 0 when the product is not above the smallest normal; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_gmean (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_gmean(const dspf_vector *in, dspf_vector *out);
+/* Harmonic mean, 0 when a real sample is 0, the guard when the reciprocals cancel; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_hmean (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
+
 #ifdef __cplusplus
 }
 #endif

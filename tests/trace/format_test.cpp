@@ -130,6 +130,19 @@ TEST(TraceFormat, PhaseDisplayAndUnwrapUseTheirOwnDegreeFactors) {
     EXPECT_NEAR(phase, 180.0 - 1.18e-11, 0.02e-11);
 }
 
+// A step of exactly half a turn is not unwrapped, either way.
+TEST(TraceFormat, UnwrapLeavesAnExactHalfTurnAlone) {
+    const double z[6] = {1, 0, -1, 0, 1, 0};
+    double rad[3], deg[3];
+    vfpd_UnwrapPhase(z, 0, 3, rad, 0);
+    vfpd_UnwrapPhase(z, 0, 3, deg, 1);
+    EXPECT_EQ(rad[0], 0.0);
+    EXPECT_DOUBLE_EQ(rad[1], M_PI);
+    EXPECT_EQ(rad[2], 0.0);
+    EXPECT_DOUBLE_EQ(deg[1], 180.0);
+    EXPECT_EQ(deg[2], 0.0);
+}
+
 TEST(TraceFormat, LogOfZeroIsMinusInfinity) {
     const double z[2] = {0, 0};
     double db = 0, rl = 0;

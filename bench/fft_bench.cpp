@@ -1,0 +1,69 @@
+// FFT engine: complex and real round trips (forward, which carries 1/N, then
+// inverse) of both precisions for N = 2^6 .. 2^20. With FFTW installed each
+// benchmark also times FFTW's round trip on the same length (forward, a 1/N
+// pass, backward; plans made with FFTW_MEASURE before timing) and reports the
+// ratio ours/FFTW. Lengths of the arbitrary-length transforms live in
+// dft_bench.cpp.
+#include "bench/fft_peer.hpp"
+#include "bench/support.hpp"
+#include "transform/fft.hpp"
+
+#include <memory>
+
+namespace {
+
+template <class T> void BM_fft_round_trip(benchmark::State& state) {
+    const int n = static_cast<int>(state.range(0));
+    zb::Filled<T> v(n, true);
+    zf::fft<T>(v.get(), 0);   // tables built, storage touched
+    zf::fft<T>(v.get(), 1);
+#ifdef ZF_HAVE_FFTW
+    auto peer = std::make_unique<zb::PeerComplex<T>>(n);
+#else
+    std::unique_ptr<int> peer;
+    struct None { void round_trip() {} };
+    None* none = nullptr;
+#endif
+    auto body = [&] {
+        zf::fft<T>(v.get(), 0);
+        zf::fft<T>(v.get(), 1);
+        benchmark::ClobberMemory();
+    };
+#ifdef ZF_HAVE_FFTW
+    zb::timed_against(state, body, peer.get());
+#else
+    zb::timed_against(state, body, none);
+#endif
+    state.SetItemsProcessed(state.iterations() * n);
+}
+
+template <class T> void BM_rfft_round_trip(benchmark::State& state) {
+    const int n = static_cast<int>(state.range(0));
+    zb::Filled<T> v(n, false);
+    zf::rfft<T>(v.get());
+    zf::irfft<T>(v.get());
+#ifdef ZF_HAVE_FFTW
+    auto peer = std::make_unique<zb::PeerReal<T>>(n);
+#else
+    struct None { void round_trip() {} };
+    None* none = nullptr;
+#endif
+    auto body = [&] {
+        zf::rfft<T>(v.get());
+        zf::irfft<T>(v.get());
+        benchmark::ClobberMemory();
+    };
+#ifdef ZF_HAVE_FFTW
+    zb::timed_against(state, body, peer.get());
+#else
+    zb::timed_against(state, body, none);
+#endif
+    state.SetItemsProcessed(state.iterations() * n);
+}
+
+BENCHMARK_TEMPLATE(BM_fft_round_trip, double)->RangeMultiplier(2)->Range(1 << 6, 1 << 20);
+BENCHMARK_TEMPLATE(BM_fft_round_trip, float)->RangeMultiplier(2)->Range(1 << 6, 1 << 20);
+BENCHMARK_TEMPLATE(BM_rfft_round_trip, double)->RangeMultiplier(2)->Range(1 << 6, 1 << 20);
+BENCHMARK_TEMPLATE(BM_rfft_round_trip, float)->RangeMultiplier(2)->Range(1 << 6, 1 << 20);
+
+}  // namespace

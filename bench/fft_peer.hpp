@@ -1,0 +1,134 @@
+// The FFTW peer of the transform benchmarks (only when ZF_HAVE_FFTW): in-place
+// complex plans and out-of-place real plans of either precision, made with
+// FFTW_MEASURE before any timing, and a helper that times a round trip the
+// same way as ours so both land in one benchmark as a ratio.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <ctime>
+
+#ifdef ZF_HAVE_FFTW
+#include <fftw3.h>
+
+namespace zb {
+
+// Forward, multiply by 1/N (our forward carries it), backward: the data come
+// back, so the loop can run on the same buffer, exactly like our round trip.
+template <class T> struct PeerComplex;
+template <> struct PeerComplex<double> {
+    fftw_complex* buf;
+    fftw_plan fwd, bwd;
+    int n;
+    explicit PeerComplex(int n_) : n(n_) {
+        buf = fftw_alloc_complex(n);
+        fwd = fftw_plan_dft_1d(n, buf, buf, FFTW_FORWARD, FFTW_MEASURE);
+        bwd = fftw_plan_dft_1d(n, buf, buf, FFTW_BACKWARD, FFTW_MEASURE);
+        for (int i = 0; i < n; ++i) { buf[i][0] = (i % 7) * 0.1 - 0.3; buf[i][1] = (i % 5) * 0.1 - 0.2; }
+    }
+    ~PeerComplex() { fftw_destroy_plan(fwd); fftw_destroy_plan(bwd); fftw_free(buf); }
+    void round_trip() {
+        fftw_execute(fwd);
+        const double s = 1.0 / n;
+        double* d = &buf[0][0];
+        for (int i = 0; i < 2 * n; ++i) d[i] *= s;
+        fftw_execute(bwd);
+    }
+};
+template <> struct PeerComplex<float> {
+    fftwf_complex* buf;
+    fftwf_plan fwd, bwd;
+    int n;
+    explicit PeerComplex(int n_) : n(n_) {
+        buf = fftwf_alloc_complex(n);
+        fwd = fftwf_plan_dft_1d(n, buf, buf, FFTW_FORWARD, FFTW_MEASURE);
+        bwd = fftwf_plan_dft_1d(n, buf, buf, FFTW_BACKWARD, FFTW_MEASURE);
+        for (int i = 0; i < n; ++i) { buf[i][0] = (i % 7) * 0.1f - 0.3f; buf[i][1] = (i % 5) * 0.1f - 0.2f; }
+    }
+    ~PeerComplex() { fftwf_destroy_plan(fwd); fftwf_destroy_plan(bwd); fftwf_free(buf); }
+    void round_trip() {
+        fftwf_execute(fwd);
+        const float s = 1.0f / n;
+        float* d = &buf[0][0];
+        for (int i = 0; i < 2 * n; ++i) d[i] *= s;
+        fftwf_execute(bwd);
+    }
+};
+
+// Real to half-spectrum and back (out of place, as the real plans prefer).
+template <class T> struct PeerReal;
+template <> struct PeerReal<double> {
+    double* in;
+    fftw_complex* spec;
+    fftw_plan fwd, bwd;
+    int n;
+    explicit PeerReal(int n_) : n(n_) {
+        in = fftw_alloc_real(n);
+        spec = fftw_alloc_complex(n / 2 + 1);
+        fwd = fftw_plan_dft_r2c_1d(n, in, spec, FFTW_MEASURE);
+        bwd = fftw_plan_dft_c2r_1d(n, spec, in, FFTW_MEASURE);
+        for (int i = 0; i < n; ++i) in[i] = (i % 7) * 0.1 - 0.3;
+    }
+    ~PeerReal() { fftw_destroy_plan(fwd); fftw_destroy_plan(bwd); fftw_free(in); fftw_free(spec); }
+    void round_trip() {
+        fftw_execute(fwd);
+        const double s = 1.0 / n;
+        double* d = &spec[0][0];
+        for (int i = 0; i < n + 2; ++i) d[i] *= s;
+        fftw_execute(bwd);
+    }
+};
+template <> struct PeerReal<float> {
+    float* in;
+    fftwf_complex* spec;
+    fftwf_plan fwd, bwd;
+    int n;
+    explicit PeerReal(int n_) : n(n_) {
+        in = fftwf_alloc_real(n);
+        spec = fftwf_alloc_complex(n / 2 + 1);
+        fwd = fftwf_plan_dft_r2c_1d(n, in, spec, FFTW_MEASURE);
+        bwd = fftwf_plan_dft_c2r_1d(n, spec, in, FFTW_MEASURE);
+        for (int i = 0; i < n; ++i) in[i] = (i % 7) * 0.1f - 0.3f;
+    }
+    ~PeerReal() { fftwf_destroy_plan(fwd); fftwf_destroy_plan(bwd); fftwf_free(in); fftwf_free(spec); }
+    void round_trip() {
+        fftwf_execute(fwd);
+        const float s = 1.0f / n;
+        float* d = &spec[0][0];
+        for (int i = 0; i < n + 2; ++i) d[i] *= s;
+        fftwf_execute(bwd);
+    }
+};
+
+}  // namespace zb
+#endif
+
+namespace zb {
+
+// Runs body in the benchmark loop, then (with the peer) the peer's round trip
+// as many times, and reports the peer's time per iteration and our time over
+// its time ("ratio": below 1 means we are faster).
+// Thread CPU time in seconds: the machine is shared, so wall time would also
+// count other processes.
+inline double cpu_seconds() {
+    timespec ts;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+    return static_cast<double>(ts.tv_sec) + 1e-9 * static_cast<double>(ts.tv_nsec);
+}
+
+template <class Body, class Peer>
+void timed_against(benchmark::State& state, Body body, Peer* peer) {
+    const double t0 = cpu_seconds();
+    for (auto _ : state) body();
+    const double ours = cpu_seconds() - t0;
+    if (!peer) return;
+    for (int i = 0; i < 3; ++i) peer->round_trip();   // warm
+    const double t2 = cpu_seconds();
+    for (std::int64_t i = 0; i < state.iterations(); ++i) peer->round_trip();
+    const double theirs = cpu_seconds() - t2;
+    state.counters["peer_ns"] = 1e9 * theirs / static_cast<double>(state.iterations());
+    state.counters["ratio"] = ours / theirs;
+}
+
+}  // namespace zb

@@ -1,0 +1,194 @@
+// AVX2/FMA kernels of the split-radix transform: W complex values per register
+// (2 doubles' pairs or 4 floats' pairs), interleaved as they lie in memory.
+// Blocks of up to kLeaf points are unrolled at compile time; larger blocks run
+// one vectorised L-shaped pass and recurse depth first. Same butterflies and
+// the same three-multiplication rotations as the portable kernel.
+#include <immintrin.h>
+
+#include "transform/fft_kernel.hpp"
+
+namespace zf {
+namespace {
+
+template <class T> struct Ops;
+
+template <> struct Ops<double> {
+    using R = __m256d;
+    static constexpr int W = 2;
+    static R load(const double* p) noexcept { return _mm256_loadu_pd(p); }
+    static void store(double* p, R v) noexcept { _mm256_storeu_pd(p, v); }
+    static R add(R a, R b) noexcept { return _mm256_add_pd(a, b); }
+    static R sub(R a, R b) noexcept { return _mm256_sub_pd(a, b); }
+    static R mul(R a, R b) noexcept { return _mm256_mul_pd(a, b); }
+    static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_pd(a, b, c); }
+    static R zero() noexcept { return _mm256_setzero_pd(); }
+    // (re, im) -> (im, re) in every pair
+    static R swap(R v) noexcept { return _mm256_permute_pd(v, 0x5); }
+    // j v
+    static R mul_j(R v) noexcept { return _mm256_addsub_pd(_mm256_setzero_pd(), swap(v)); }
+    // the low / high half (one complex value here) in both halves
+    static R low2(R v) noexcept { return _mm256_permute2f128_pd(v, v, 0x00); }
+    static R high2(R v) noexcept { return _mm256_permute2f128_pd(v, v, 0x11); }
+    // +1 for the first half, -1 for the second
+    static R pm() noexcept { return _mm256_setr_pd(1, 1, -1, -1); }
+    static R mp() noexcept { return _mm256_setr_pd(-1, -1, 1, 1); }
+};
+
+template <> struct Ops<float> {
+    using R = __m256;
+    static constexpr int W = 4;
+    static R load(const float* p) noexcept { return _mm256_loadu_ps(p); }
+    static void store(float* p, R v) noexcept { _mm256_storeu_ps(p, v); }
+    static R add(R a, R b) noexcept { return _mm256_add_ps(a, b); }
+    static R sub(R a, R b) noexcept { return _mm256_sub_ps(a, b); }
+    static R mul(R a, R b) noexcept { return _mm256_mul_ps(a, b); }
+    static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_ps(a, b, c); }
+    static R zero() noexcept { return _mm256_setzero_ps(); }
+    static R swap(R v) noexcept { return _mm256_permute_ps(v, 0xB1); }
+    static R mul_j(R v) noexcept { return _mm256_addsub_ps(_mm256_setzero_ps(), swap(v)); }
+    static R low2(R v) noexcept { return _mm256_permute2f128_ps(v, v, 0x00); }
+    static R high2(R v) noexcept { return _mm256_permute2f128_ps(v, v, 0x11); }
+    // first complex value of each 128-bit half in both slots of that half, and the second
+    static R low1(R v) noexcept { return _mm256_permute_ps(v, 0x44); }
+    static R high1(R v) noexcept { return _mm256_permute_ps(v, 0xEE); }
+    static R pm() noexcept { return _mm256_setr_ps(1, 1, 1, 1, -1, -1, -1, -1); }
+    static R mp() noexcept { return _mm256_setr_ps(-1, -1, -1, -1, 1, 1, 1, 1); }
+    static R pm1() noexcept { return _mm256_setr_ps(1, 1, -1, -1, 1, 1, -1, -1); }
+};
+
+// z rotated by the group (c, pair): t = c (re + im), then t + swap(z) * pair;
+// the inverse exchanges the two scalars of the pair.
+template <class T, bool Inv>
+inline typename Ops<T>::R rotate(typename Ops<T>::R z, typename Ops<T>::R c, typename Ops<T>::R pair) noexcept {
+    using O = Ops<T>;
+    const auto s = O::swap(z);
+    if (Inv) pair = O::swap(pair);
+    return O::fma(s, pair, O::mul(c, O::add(z, s)));
+}
+
+// One vectorised L-shaped pass over a block of n points (n/4 a multiple of W),
+// with the level twiddles lv of block size n.
+template <class T, bool Inv> void lpass(T* x, std::ptrdiff_t n, const T* lv) noexcept {
+    using O = Ops<T>;
+    constexpr int W = O::W;
+    const std::ptrdiff_t q = n / 4;
+    T* a = x;
+    T* b = x + 2 * q;
+    T* c = x + 4 * q;
+    T* d = x + 6 * q;
+    for (std::ptrdiff_t k = 0; k < 2 * q; k += 2 * W, lv += 8 * W) {
+        const auto A = O::load(a + k), B = O::load(b + k), C = O::load(c + k), D = O::load(d + k);
+        O::store(a + k, O::add(A, C));
+        O::store(b + k, O::add(B, D));
+        const auto u = O::sub(A, C);
+        const auto jv = O::mul_j(O::sub(B, D));
+        const auto z1 = Inv ? O::add(u, jv) : O::sub(u, jv);
+        const auto z3 = Inv ? O::sub(u, jv) : O::add(u, jv);
+        O::store(c + k, rotate<T, Inv>(z1, O::load(lv), O::load(lv + 2 * W)));
+        O::store(d + k, rotate<T, Inv>(z3, O::load(lv + 4 * W), O::load(lv + 6 * W)));
+    }
+}
+
+// Blocks of compile-time size, outputs in bit-reversed order.
+template <class T, int N, bool Inv> struct Block;
+
+// double: two points in one register
+template <bool Inv> struct Block<double, 2, Inv> {
+    static void run(double* x, const double*) noexcept {
+        using O = Ops<double>;
+        const auto v = O::load(x);
+        O::store(x, O::fma(O::high2(v), O::pm(), O::low2(v)));
+    }
+};
+// double: four points in two registers
+template <bool Inv> struct Block<double, 4, Inv> {
+    static void run(double* x, const double*) noexcept {
+        using O = Ops<double>;
+        const auto v0 = O::load(x), v1 = O::load(x + 4);
+        const auto s = O::add(v0, v1), d = O::sub(v0, v1);
+        O::store(x, O::fma(O::high2(s), O::pm(), O::low2(s)));          // X0, X2
+        const auto jd = O::mul_j(O::high2(d));
+        O::store(x + 4, O::fma(jd, Inv ? O::pm() : O::mp(), O::low2(d)));   // X1, X3
+    }
+};
+// float: four points in one register
+template <bool Inv> struct Block<float, 4, Inv> {
+    static void run(float* x, const float*) noexcept {
+        using O = Ops<float>;
+        const auto v = O::load(x);
+        // the halves: (x0, x1) and (x2, x3)
+        const auto lo = O::low2(v), hi = O::high2(v);
+        const auto s = O::add(lo, hi), d = O::sub(lo, hi);   // (s0, s1, s0, s1), (d0, d1, d0, d1)
+        // (s0 + s1, s0 - s1) in the first half, (d0 -+ j d1, d0 +- j d1) in the second
+        const auto sd = _mm256_blend_ps(s, d, 0xF0);          // (s0, s1, d0, d1)
+        const auto first = O::low1(sd);                        // (s0, s0, d0, d0)
+        auto second = O::high1(sd);                            // (s1, s1, d1, d1)
+        const auto jsec = O::mul_j(second);
+        second = _mm256_blend_ps(second, jsec, 0xF0);          // (s1, s1, j d1, j d1)
+        const auto sign = Inv ? _mm256_setr_ps(1, 1, -1, -1, 1, 1, -1, -1)
+                              : _mm256_setr_ps(1, 1, -1, -1, -1, -1, 1, 1);
+        O::store(x, O::fma(second, sign, first));              // X0, X2, X1, X3
+    }
+};
+// float: eight points in two registers; the quarter branches hold two points each
+template <bool Inv> struct Block<float, 8, Inv> {
+    static void run(float* x, const float* lv) noexcept {
+        using O = Ops<float>;
+        const auto v0 = O::load(x), v1 = O::load(x + 8);
+        O::store(x, O::add(v0, v1));
+        const auto d = O::sub(v0, v1);                          // d0 .. d3
+        const auto jd = O::mul_j(O::high2(d));                  // j (d2, d3, d2, d3)
+        auto z = O::fma(jd, Inv ? O::pm() : O::mp(), O::low2(d));   // z1_0, z1_1, z3_0, z3_1
+        // rotations by w^0, w^1, w^0, w^3 of the eight-point transform
+        const float h = 0.70710677f, r2 = 1.4142135f;
+        const auto c = _mm256_setr_ps(1, 1, h, h, 1, 1, -h, -h);
+        const auto pair = _mm256_setr_ps(-1, -1, 0, -r2, -1, -1, r2, 0);
+        z = rotate<float, Inv>(z, c, pair);
+        O::store(x + 8, O::fma(O::high1(z), O::pm1(), O::low1(z)));
+        Block<float, 4, Inv>::run(x, lv);
+    }
+};
+
+template <class T, int N, bool Inv> struct Block {
+    static void run(T* x, const T* lv) noexcept {
+        constexpr int W = Ops<T>::W;
+        lpass<T, Inv>(x, N, lv + 2 * (N - 4 * W));
+        Block<T, N / 2, Inv>::run(x, lv);
+        Block<T, N / 4, Inv>::run(x + N, lv);
+        Block<T, N / 4, Inv>::run(x + N + N / 2, lv);
+    }
+};
+
+template <class T> constexpr int kLeaf = 64;
+
+template <class T, bool Inv> void recurse(T* x, std::ptrdiff_t n, const T* lv) noexcept {
+    if (n <= kLeaf<T>) {
+        switch (n) {
+        case 4: Block<T, 4, Inv>::run(x, lv); break;
+        case 8: Block<T, 8, Inv>::run(x, lv); break;
+        case 16: Block<T, 16, Inv>::run(x, lv); break;
+        case 32: Block<T, 32, Inv>::run(x, lv); break;
+        case 64: Block<T, 64, Inv>::run(x, lv); break;
+        default: break;
+        }
+        return;
+    }
+    constexpr int W = Ops<T>::W;
+    lpass<T, Inv>(x, n, lv + 2 * (n - 4 * W));
+    recurse<T, Inv>(x, n / 2, lv);
+    recurse<T, Inv>(x + n, n / 4, lv);
+    recurse<T, Inv>(x + n + n / 2, n / 4, lv);
+}
+
+}  // namespace
+
+void dif_avx2(double* x, std::ptrdiff_t n, const double* lv, bool inverse) noexcept {
+    if (inverse) recurse<double, true>(x, n, lv);
+    else recurse<double, false>(x, n, lv);
+}
+void dif_avx2(float* x, std::ptrdiff_t n, const float* lv, bool inverse) noexcept {
+    if (inverse) recurse<float, true>(x, n, lv);
+    else recurse<float, false>(x, n, lv);
+}
+
+}  // namespace zf
