@@ -3,22 +3,11 @@
 #include <cmath>
 #include <limits>
 
-#include "support/api_stats.hpp"
-#include "support/vectors.hpp"
+#include "support/stats_fixture.hpp"
 
 using namespace zt;
 
-template <class T> class StatsMoments : public ::testing::Test {
-protected:
-    // The one value (or pair) of a statistic of these scalars.
-    using Fn = int (*)(const Vec<T>*, Vec<T>*);
-    std::vector<T> run(Fn fn, const std::vector<T>& s, bool complex = false) {
-        Owned<T> in(s, complex), out;
-        EXPECT_EQ(fn(in.get(), out.get()), 0);
-        return out.scalars();
-    }
-    static constexpr T G = Traits<T>::huge;
-};
+template <class T> class StatsMoments : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsMoments, Precisions);
 
 // Each block of 2048 samples is summed on its own before it joins the total:
