@@ -571,6 +571,32 @@ ZF_API int ZF_CDECL cf_dspi_fft(double *data, int points, int complex, int direc
 /* DFT, DCT, Hilbert transform and analytic signal                           */
 /* ------------------------------------------------------------------------ */
 
+/* DFT of any length in place (0 forward with 1/N, other inverse); complex
+ * result of the same points, delta becomes 1/(N*delta). */
+ZF_API int ZF_CALL dspi_dft (dsp_vector  *v, int direction);
+ZF_API int ZF_CALL dspfi_dft(dspf_vector *v, int direction);
+/* DFT of a real vector: N/2 + 1 complex bins (-1 for complex input). */
+ZF_API int ZF_CALL dspi_rdft (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rdft(dspf_vector *v);
+/* Inverse of dspi_rdft: M bins to 2(M - 1) real samples, 2M - 1 with odd. */
+ZF_API int ZF_CALL dspi_irdft (dsp_vector  *v, int odd);
+ZF_API int ZF_CALL dspfi_irdft(dspf_vector *v, int odd);
+/* Full conjugate-symmetric spectrum from bins 0 .. M-1: grows to 2(M - 1) points, 2M - 1 with odd. */
+ZF_API int ZF_CALL dspi_orecon (dsp_vector  *v, int odd);
+ZF_API int ZF_CALL dspfi_orecon(dspf_vector *v, int odd);
+/* dspi_orecon with odd = 0. */
+ZF_API int ZF_CALL dspi_recon (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_recon(dspf_vector *v);
+/* DCT of a real vector in place, same points (flags: 1 inverse, 2 orthonormal); -1 for complex input. */
+ZF_API int ZF_CALL dspi_dct (dsp_vector  *v, int flags);
+ZF_API int ZF_CALL dspfi_dct(dspf_vector *v, int flags);
+/* Hilbert transform in place, same points; a real input stays real (H{cos} = sin). */
+ZF_API int ZF_CALL dspi_hilbert (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_hilbert(dspf_vector *v);
+/* Analytic signal x + jH{x} in place: complex result of the same points. */
+ZF_API int ZF_CALL dspi_analytic (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
+
 /* ------------------------------------------------------------------------ */
 /* Descriptive statistics                                                    */
 /* ------------------------------------------------------------------------ */
