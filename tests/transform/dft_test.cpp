@@ -1,5 +1,6 @@
 #include "support/vectors.hpp"
 
+#include <cstdlib>
 #include <map>
 
 #include "support/api_dft.hpp"
@@ -211,6 +212,45 @@ TYPED_TEST(DftTest, ChirpStateIsReusedAcrossDirectionsAndRebuiltAfterRelease) {
     ASSERT_EQ(api::dft(after.get(), 0), 0);
     EXPECT_EQ(zf::chirp_builds<T>(), builds + 2);
     EXPECT_EQ(after.scalars(), other.scalars());
+}
+
+// The chirp and DCT states are vectors of the library: with hooks installed
+// they are allocated and, on dsp_free_internal, freed through them.
+template <class T> struct HookCount {
+    static inline int allocs = 0, frees = 0;
+    static void ZF_CDECL alloc(Vec<T>* v) {
+        ++allocs;
+        if (v->alloc > 0) std::free(v->data);
+        v->data = static_cast<T*>(std::malloc(zf::need<T>(*v) * sizeof(T)));
+    }
+    static void ZF_CDECL free(Vec<T>* v) {
+        ++frees;
+        std::free(v->data);
+    }
+};
+
+TYPED_TEST(DftTest, StatesAreReleasedThroughTheFreeHook) {
+    using T = TypeParam;
+    using H = HookCount<T>;
+    ASSERT_EQ(api::free_internal<Vec<T>>(), 0);  // nothing cached from before the hooks
+    H::allocs = H::frees = 0;
+    api::lib_alloc(&H::alloc, nullptr);
+    api::lib_free(&H::free, nullptr);
+    {
+        Owned<T> a(random_pairs<T>(12, 3), true), b(random_scalars<T>(10, 4));
+        ASSERT_EQ(api::dft(a.get(), 0), 0);
+        ASSERT_EQ(api::dct(b.get(), 0), 0);
+        EXPECT_GE(H::allocs, 3 + 2);  // chirp, filter, DCT staging, and the two records
+        const int before = H::frees;
+        ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
+        EXPECT_GE(H::frees - before, 3);
+        ASSERT_EQ(api::dft(a.get(), 1), 0);  // rebuilt after the release
+        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(a.scalars()), ref::from_pairs(random_pairs<T>(12, 3))),
+                  2 * ref::dft_bound<T>(12));
+        ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
+    }
+    api::lib_alloc(decltype(&H::alloc)(nullptr), nullptr);
+    api::lib_free(decltype(&H::free)(nullptr), nullptr);
 }
 
 // A record wrapping the caller's array grows into storage of its own; the
