@@ -2,22 +2,11 @@
 // the zero sample and the cancelling reciprocals.
 #include <cmath>
 
-#include "support/api_stats.hpp"
-#include "support/vectors.hpp"
+#include "support/stats_fixture.hpp"
 
 using namespace zt;
 
-template <class T> class StatsMeans : public ::testing::Test {
-protected:
-    using Fn = int (*)(const Vec<T>*, Vec<T>*);
-    std::vector<T> run(Fn fn, const std::vector<T>& s, bool complex = false) {
-        Owned<T> in(s, complex), out;
-        EXPECT_EQ(fn(in.get(), out.get()), 0);
-        EXPECT_EQ(out->complex, complex ? 1 : 0);
-        return out.scalars();
-    }
-    static constexpr T G = Traits<T>::huge;
-};
+template <class T> class StatsMeans : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsMeans, Precisions);
 
 TYPED_TEST(StatsMeans, GeometricMeanOfSmallVectors) {

@@ -3,39 +3,31 @@
 #include <cmath>
 #include <limits>
 
-#include "support/api_stats.hpp"
-#include "support/vectors.hpp"
+#include "support/stats_fixture.hpp"
 
 using namespace zt;
 
-template <class T> class StatsMoments : public ::testing::Test {
-protected:
-    // The one value (or pair) of a statistic of these scalars.
-    using Fn = int (*)(const Vec<T>*, Vec<T>*);
-    std::vector<T> run(Fn fn, const std::vector<T>& s, bool complex = false) {
-        Owned<T> in(s, complex), out;
-        EXPECT_EQ(fn(in.get(), out.get()), 0);
-        return out.scalars();
-    }
-    static constexpr T G = Traits<T>::huge;
-};
+template <class T> class StatsMoments : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsMoments, Precisions);
 
 // Each block of 2048 samples is summed on its own before it joins the total:
 // a first sample of 2/eps of the accumulation swallows every 1 added to it
-// (ties round to even), so 2047 ones vanish in the first block while the
-// second block's 2048 ones arrive as one exact partial sum of 2048.
+// (ties round to even), so the 2047 ones after it vanish in the first block,
+// while each later block of ones arrives as one exact partial sum. Six blocks
+// and a tail of four: 2/eps + 5 * 2048 + 4 (one running sum would stay at 2/eps).
 TYPED_TEST(StatsMoments, SumsRunInBlocksOf2048Samples) {
     using T = TypeParam;
     using A = typename Traits<T>::Acc;
     const long double base = 2 / static_cast<long double>(std::numeric_limits<A>::epsilon());
-    std::vector<T> real(4096, T(1)), pairs(2 * 4096, T(1));
+    const int n = 6 * 2048 + 4;
+    std::vector<T> real(n, T(1)), pairs(2 * n, T(1));
     real[0] = static_cast<T>(base);
     pairs[0] = pairs[1] = static_cast<T>(base);
-    const T want = static_cast<T>(static_cast<A>(base + 2048));
+    const A total = static_cast<A>(base + 5 * 2048 + 4);
+    const T want = static_cast<T>(total);
     EXPECT_EQ(this->run(api::sum, real), std::vector<T>({want}));
     EXPECT_EQ(this->run(api::sum, pairs, true), std::vector<T>({want, want}));
-    EXPECT_EQ(this->run(api::mean, real), std::vector<T>({static_cast<T>(static_cast<A>(base + 2048) / 4096)}));
+    EXPECT_EQ(this->run(api::mean, real), std::vector<T>({static_cast<T>(total / n)}));
 }
 
 TYPED_TEST(StatsMoments, SumIsNotClampedButPowerTermsAre) {
