@@ -8,6 +8,13 @@
 
 namespace {
 
+// Samples processed, and bytes for `passes` sweeps over one operand's storage
+// (two inputs read and one output written: 3).
+template <class T> void set_counters(benchmark::State& state, const zb::Filled<T>& a, int passes) {
+    state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * a.v.points);
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * passes * a.bytes());
+}
+
 template <class T> void BM_add(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
     zb::Filled<T> a(n, false, -1, 1, 1), b(n, false, -1, 1, 2), out(n, false);
@@ -15,7 +22,7 @@ template <class T> void BM_add(benchmark::State& state) {
         zf::add<T>(a.get(), b.get(), out.get());
         benchmark::DoNotOptimize(out.v.data);
     }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * 3 * a.bytes());
+    set_counters<T>(state, a, 3);
 }
 
 // In place (out == a): must run as fast as with a separate output.
@@ -26,7 +33,7 @@ template <class T> void BM_add_inplace(benchmark::State& state) {
         zf::add<T>(a.get(), b.get(), a.get());
         benchmark::DoNotOptimize(a.v.data);
     }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * 3 * a.bytes());
+    set_counters<T>(state, a, 3);
 }
 
 template <class T> void BM_mul_complex(benchmark::State& state) {
@@ -36,7 +43,7 @@ template <class T> void BM_mul_complex(benchmark::State& state) {
         zf::mul<T>(a.get(), b.get(), out.get());
         benchmark::DoNotOptimize(out.v.data);
     }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * 3 * a.bytes());
+    set_counters<T>(state, a, 3);
 }
 
 template <class T> void BM_avg_add(benchmark::State& state) {
@@ -46,7 +53,7 @@ template <class T> void BM_avg_add(benchmark::State& state) {
         zf::avg_add<T>(a.get(), b.get(), out.get(), T(0.1));
         benchmark::DoNotOptimize(out.v.data);
     }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * 3 * a.bytes());
+    set_counters<T>(state, a, 3);
 }
 
 // Each iteration restores the unsorted input by a copy (a few percent of the

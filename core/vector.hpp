@@ -21,6 +21,7 @@ template <class T> struct Traits;
 
 template <> struct Traits<double> {
     using Work = double;                                      // type the arithmetic runs in
+    using Acc = double;                                       // type the statistics accumulate in
     static constexpr double huge = 1e100;                     // saturation instead of infinity
     static constexpr double tiny = 2.2250738585072014e-308;   // logarithm floor: smallest normal
     static constexpr double exp_limit = 230.25850929940458;   // 100 ln 10: e^x stays below huge
@@ -39,6 +40,7 @@ template <> struct Traits<double> {
 
 template <> struct Traits<float> {
     using Work = float;
+    using Acc = double;                                       // float samples summed in double
     static constexpr float huge = 1e15f;                      // stored as 999999986991104
     static constexpr float tiny = 1.17549435e-38f;            // FLT_MIN
     static constexpr float exp_limit = 34.53877639770508f;    // 15 ln 10

@@ -571,9 +571,84 @@ ZF_API int ZF_CDECL cf_dspi_fft(double *data, int points, int complex, int direc
 /* DFT, DCT, Hilbert transform and analytic signal                           */
 /* ------------------------------------------------------------------------ */
 
+/* DFT of any length in place (0 forward with 1/N, other inverse); complex
+ * result of the same points, delta becomes 1/(N*delta). */
+ZF_API int ZF_CALL dspi_dft (dsp_vector  *v, int direction);
+ZF_API int ZF_CALL dspfi_dft(dspf_vector *v, int direction);
+/* DFT of a real vector: N/2 + 1 complex bins (-1 for complex input). */
+ZF_API int ZF_CALL dspi_rdft (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_rdft(dspf_vector *v);
+/* Inverse of dspi_rdft: M bins to 2(M - 1) real samples, 2M - 1 with odd. */
+ZF_API int ZF_CALL dspi_irdft (dsp_vector  *v, int odd);
+ZF_API int ZF_CALL dspfi_irdft(dspf_vector *v, int odd);
+/* Full conjugate-symmetric spectrum from bins 0 .. M-1: grows to 2(M - 1) points, 2M - 1 with odd. */
+ZF_API int ZF_CALL dspi_orecon (dsp_vector  *v, int odd);
+ZF_API int ZF_CALL dspfi_orecon(dspf_vector *v, int odd);
+/* dspi_orecon with odd = 0. */
+ZF_API int ZF_CALL dspi_recon (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_recon(dspf_vector *v);
+/* DCT of a real vector in place, same points (flags: 1 inverse, 2 orthonormal); -1 for complex input. */
+ZF_API int ZF_CALL dspi_dct (dsp_vector  *v, int flags);
+ZF_API int ZF_CALL dspfi_dct(dspf_vector *v, int flags);
+/* Hilbert transform in place, same points; a real input stays real (H{cos} = sin). */
+ZF_API int ZF_CALL dspi_hilbert (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_hilbert(dspf_vector *v);
+/* Analytic signal x + jH{x} in place: complex result of the same points. */
+ZF_API int ZF_CALL dspi_analytic (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
+
 /* ------------------------------------------------------------------------ */
 /* Descriptive statistics                                                    */
 /* ------------------------------------------------------------------------ */
+
+/* Each writes its result into out as a vector of one point, sized with
+ * dsp_alloc (delta untouched); out may be the input record itself. */
+/* Sum of the samples (parts separately), in blocks of 2048; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_sum (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_sum(const dspf_vector *in, dspf_vector *out);
+/* Sum divided by the count, each part; one point, complex as the input; 0 when empty. */
+ZF_API int ZF_CALL dsps_mean (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_mean(const dspf_vector *in, dspf_vector *out);
+/* Smallest sample (complex: of smallest |z|^2), at most 1e100 / 1e15; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_min (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_min(const dspf_vector *in, dspf_vector *out);
+/* Largest sample (complex: of largest |z|^2); one point, complex as the input. */
+ZF_API int ZF_CALL dsps_max (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_max(const dspf_vector *in, dspf_vector *out);
+/* Middle of the sorted samples (mean of the two middle ones for an even count; complex
+ * samples in the order of dspi_sort); one point, complex as the input. */
+ZF_API int ZF_CALL dsps_median (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_median(const dspf_vector *in, dspf_vector *out);
+/* Sum of x^2 or re^2 + im^2, each term at most the guard; one real point. */
+ZF_API int ZF_CALL dsps_magsq_sum (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_magsq_sum(const dspf_vector *in, dspf_vector *out);
+/* Square root of magsq_sum / count; one real point. */
+ZF_API int ZF_CALL dsps_rms (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_rms(const dspf_vector *in, dspf_vector *out);
+/* Population variance, real and imaginary parts pooled; one real point. */
+ZF_API int ZF_CALL dsps_pop_var (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_pop_var(const dspf_vector *in, dspf_vector *out);
+/* pop_var * n / (n - 1) for n >= 2, else pop_var; one real point. */
+ZF_API int ZF_CALL dsps_samp_var (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_samp_var(const dspf_vector *in, dspf_vector *out);
+/* Square root of pop_var; one real point. */
+ZF_API int ZF_CALL dsps_pop_stddev (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_pop_stddev(const dspf_vector *in, dspf_vector *out);
+/* Square root of samp_var; one real point. */
+ZF_API int ZF_CALL dsps_samp_stddev (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_samp_stddev(const dspf_vector *in, dspf_vector *out);
+/* Skewness; -1 for complex input (output untouched); one real point, 0 when empty. */
+ZF_API int ZF_CALL dsps_skew (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_skew(const dspf_vector *in, dspf_vector *out);
+/* Excess kurtosis; -1 for complex input (output untouched); one real point, -3 when empty. */
+ZF_API int ZF_CALL dsps_excess (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_excess(const dspf_vector *in, dspf_vector *out);
+/* Geometric mean (complex: principal n-th root of the product), 0 when the product is not above the smallest normal; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_gmean (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_gmean(const dspf_vector *in, dspf_vector *out);
+/* Harmonic mean, 0 when a real sample is 0, the guard when the reciprocals cancel; one point, complex as the input. */
+ZF_API int ZF_CALL dsps_hmean (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,301 @@
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <vector>
+
+#include "support/api_netcal.hpp"
+#include "support/netcal_ref.hpp"
+
+using namespace zt;
+
+namespace {
+
+using Trace = std::vector<double>;
+constexpr double kUnwritten = 12345.0;
+
+// Point i of a trace as long double, and a trace built from such points.
+Trace from_points(const std::vector<LC>& z) {
+    Trace t(2 * z.size());
+    for (std::size_t i = 0; i < z.size(); ++i) {
+        t[2 * i] = static_cast<double>(z[i].real());
+        t[2 * i + 1] = static_cast<double>(z[i].imag());
+    }
+    return t;
+}
+Trace filled(std::size_t n, double re, double im = 0) {
+    Trace t(2 * n);
+    for (std::size_t i = 0; i < n; ++i) {
+        t[2 * i] = re;
+        t[2 * i + 1] = im;
+    }
+    return t;
+}
+::testing::AssertionResult close(LC got, LC want, long double tol, std::size_t at) {
+    if (std::abs(got - want) <= tol * std::fmax(1.0L, std::abs(want))) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "at " << at << ": " << got << " != " << want;
+}
+// Points outside [start, stop) still hold kUnwritten.
+::testing::AssertionResult untouched_outside(const Trace& t, int start, int stop) {
+    for (std::size_t i = 0; i < t.size(); ++i) {
+        const int point = static_cast<int>(i / 2);
+        if ((point < start || point >= stop) && t[i] != kUnwritten)
+            return ::testing::AssertionFailure() << "point " << point << " written";
+    }
+    return ::testing::AssertionSuccess();
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- one port
+
+TEST(Correct1PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
+    const int n = 40, start = 3, stop = 37;
+    const Trace d = random_points(n, 1, -0.1, 0.1), s = random_points(n, 2, -0.3, 0.3),
+                r = random_points(n, 3, -0.2, 0.2, 1.0), m = random_points(n, 4);
+    Trace out = filled(n, kUnwritten, kUnwritten);
+    ASSERT_EQ(Correct1Port(d.data(), s.data(), r.data(), m.data(), out.data(), start, stop), stop - start);
+    for (int j = start; j < stop; ++j)
+        EXPECT_TRUE(close(lc(out, j), one_port_corrected(lc(m, j), lc(d, j), lc(s, j), lc(r, j)), 8 * DBL_EPSILON, j));
+    EXPECT_TRUE(untouched_outside(out, start, stop));
+    // In place: the corrected trace overwrites the measured one.
+    Trace in_place = m;
+    ASSERT_EQ(Correct1Port(d.data(), s.data(), r.data(), in_place.data(), in_place.data(), start, stop), stop - start);
+    for (int j = start; j < stop; ++j) EXPECT_EQ(lc(in_place, j), lc(out, j));
+}
+
+TEST(Correct1PortTest, IdealTermsCopyTheMeasurement) {
+    const int n = 9;
+    const Trace zero = filled(n, 0), unit = filled(n, 1), m = random_points(n, 5, -3, 3);
+    Trace out(2 * n);
+    ASSERT_EQ(Correct1Port(zero.data(), zero.data(), unit.data(), m.data(), out.data(), 0, n), n);
+    EXPECT_EQ(out, m);
+}
+
+TEST(Correct1PortTest, NullArraysAndEmptyRangesWriteNothing) {
+    const int n = 4;
+    Trace a = random_points(n, 6), out = filled(n, kUnwritten, kUnwritten);
+    for (int missing = 0; missing < 5; ++missing) {
+        const double* p[5] = {a.data(), a.data(), a.data(), a.data(), out.data()};
+        p[missing] = nullptr;
+        EXPECT_EQ(Correct1Port(p[0], p[1], p[2], p[3], const_cast<double*>(p[4]), 0, n), 0) << missing;
+    }
+    EXPECT_EQ(Correct1Port(a.data(), a.data(), a.data(), a.data(), out.data(), 3, 3), 0);
+    EXPECT_EQ(Correct1Port(a.data(), a.data(), a.data(), a.data(), out.data(), 3, 1), -2);
+    EXPECT_EQ(Correct1Port(a.data(), a.data(), a.data(), a.data(), out.data(), -1, 2), 0);
+    EXPECT_TRUE(untouched_outside(out, 0, 0));
+}
+
+// The terms come back from three standards measured through them: open,
+// short and load, and arbitrary distinct standards.
+TEST(Compute1PortTermsTest, RecoversTheTermsTheStandardsWereMeasuredThrough) {
+    const int n = 25, start = 2, stop = 23;
+    const Trace e00 = random_points(n, 7, -0.1, 0.1), e11 = random_points(n, 8, -0.3, 0.3),
+                e10e01 = random_points(n, 9, -0.3, 0.3, 0.8);
+    const std::vector<Trace> standard_sets[2] = {
+        {filled(n, 1), filled(n, -1), filled(n, 0)},
+        {random_points(n, 10, -1, 1), random_points(n, 11, -1, 1), random_points(n, 12, -1, 1)}};
+    for (const std::vector<Trace>& g : standard_sets) {
+        Trace m[3];
+        for (int i = 0; i < 3; ++i) {
+            std::vector<LC> z(n, LC(kUnwritten, kUnwritten));
+            for (int j = start; j < stop; ++j) z[j] = one_port_measured(lc(g[i], j), lc(e00, j), lc(e11, j), lc(e10e01, j));
+            m[i] = from_points(z);
+        }
+        const std::vector<Trace> g_before = g;
+        Compute1PortTerms(m[0].data(), m[1].data(), m[2].data(), g[0].data(), g[1].data(), g[2].data(), start, stop);
+        for (int j = start; j < stop; ++j) {
+            EXPECT_TRUE(close(lc(m[0], j), lc(e00, j), 1e-12L, j));
+            EXPECT_TRUE(close(lc(m[1], j), lc(e11, j), 1e-12L, j));
+            EXPECT_TRUE(close(lc(m[2], j), lc(e10e01, j), 1e-12L, j));
+        }
+        for (int i = 0; i < 3; ++i) EXPECT_TRUE(untouched_outside(m[i], start, stop));
+        EXPECT_EQ(g, g_before);
+    }
+}
+
+// Three identical standards make a singular system; the partly reduced matrix
+// is used as it stands. Rows [2, 1, -6], right-hand side 3: column 0 scales
+// row 0 to [0.5, 0.5, -3] and leaves rows 1 and 2 at [-1, 0, 0]; column 1 has
+// no pivot. x = [1.5 + 1.5 - 9, -3, -3], so directivity x1 = -3, source match
+// -x2 = 3 and tracking x0 - x1*x2 = -15.
+TEST(Compute1PortTermsTest, SingularStandardsGiveThePartlyReducedTerms) {
+    Trace m1 = {3, 0}, m2 = {3, 0}, m3 = {3, 0};
+    const Trace g = {2, 0};
+    Compute1PortTerms(m1.data(), m2.data(), m3.data(), g.data(), g.data(), g.data(), 0, 1);
+    EXPECT_EQ(lc(m1, 0), LC(-3, 0));
+    EXPECT_EQ(lc(m2, 0), LC(3, 0));
+    EXPECT_EQ(lc(m3, 0), LC(-15, 0));
+}
+
+// ---------------------------------------------------------- enhanced response
+
+TEST(ApplyEnhancedResponseTest, AgreesWithClosedForm) {
+    const int n = 30, start = 1, stop = 29;
+    const Trace d = random_points(n, 13, -0.1, 0.1), s = random_points(n, 14, -0.3, 0.3),
+                r = random_points(n, 15, -0.2, 0.2, 1.0), l = random_points(n, 16, -0.3, 0.3),
+                t = random_points(n, 17, -0.2, 0.2, 0.9), m11 = random_points(n, 18), m21 = random_points(n, 19);
+    for (const int flag : {0, 1, 0x100, 0x2FF}) {
+        const bool with_load = (flag & 0xFF) != 0;
+        Trace c11 = filled(n, kUnwritten, kUnwritten), c21 = c11;
+        ASSERT_EQ(ApplyEnhancedResponse(d.data(), s.data(), r.data(), with_load ? l.data() : nullptr, t.data(),
+                                        m11.data(), m21.data(), c11.data(), c21.data(), start, stop, flag),
+                  stop - start);
+        for (int j = start; j < stop; ++j) {
+            const LC dd = lc(m11, j) - lc(d, j), ss = lc(r, j) + lc(s, j) * dd;
+            const LC s21 = lc(r, j) * lc(m21, j) / (ss * lc(t, j));
+            const LC s11 = dd / ss - (with_load ? lc(l, j) * s21 * s21 : LC(0));
+            EXPECT_TRUE(close(lc(c21, j), s21, 16 * DBL_EPSILON, j));
+            EXPECT_TRUE(close(lc(c11, j), s11, 16 * DBL_EPSILON, j));
+        }
+        EXPECT_TRUE(untouched_outside(c11, start, stop));
+        EXPECT_TRUE(untouched_outside(c21, start, stop));
+    }
+}
+
+TEST(ApplyEnhancedResponseTest, OutputsAreOptionalAndRequiredInputsChecked) {
+    const int n = 5;
+    const Trace a = random_points(n, 20, -0.5, 0.5, 1.0);
+    Trace c11 = filled(n, kUnwritten, kUnwritten), c21 = c11;
+    const double* x = a.data();
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, nullptr, 0, n, 0), n);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, c21.data(), 0, n, 0), n);
+    EXPECT_TRUE(untouched_outside(c11, 0, 0));
+    for (int missing = 0; missing < 6; ++missing) {
+        const double* p[6] = {x, x, x, x, x, x};
+        p[missing] = nullptr;
+        Trace o11 = filled(n, kUnwritten, kUnwritten), o21 = o11;
+        EXPECT_EQ(ApplyEnhancedResponse(p[0], p[1], p[2], x, p[3], p[4], p[5], o11.data(), o21.data(), 0, n, 1), 0);
+        EXPECT_TRUE(untouched_outside(o11, 0, 0));
+        EXPECT_TRUE(untouched_outside(o21, 0, 0));
+    }
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, x, x, x, x, c11.data(), c21.data(), 4, 2, 1), -2);
+}
+
+// ------------------------------------------------------------------ two port
+
+namespace {
+
+// Twelve-term data over n points with the arrays in Correct2Port's order.
+struct TwoPort {
+    int n;
+    Trace a[20];
+    explicit TwoPort(int points, unsigned seed) : n(points) {
+        for (int p = 0; p < 4; ++p) {
+            a[p] = random_points(n, seed + p, -0.2, 0.2, 0.9);           // tracking
+            a[4 + p] = random_points(n, seed + 4 + p, -0.3, 0.3);        // match
+            a[8 + p] = random_points(n, seed + 8 + p, -0.05, 0.05);      // offset
+            a[12 + p] = random_points(n, seed + 12 + p, -0.9, 0.9);      // measured
+            a[16 + p] = filled(n, kUnwritten, kUnwritten);               // corrected
+        }
+    }
+    int run(int start, int stop, unsigned null_mask = 0) {
+        double* p[20];
+        for (int i = 0; i < 20; ++i) p[i] = (null_mask >> i) & 1 ? nullptr : a[i].data();
+        return api::correct_2port(p, start, stop);
+    }
+    TwelveTerms terms(int j) const {
+        TwelveTerms e;
+        e.erf = lc(a[0], j); e.etr = lc(a[1], j); e.etf = lc(a[2], j); e.err = lc(a[3], j);
+        e.esf = lc(a[4], j); e.elr = lc(a[5], j); e.elf = lc(a[6], j); e.esr = lc(a[7], j);
+        e.edf = lc(a[8], j); e.exr = lc(a[9], j); e.exf = lc(a[10], j); e.edr = lc(a[11], j);
+        return e;
+    }
+};
+
+}  // namespace
+
+// 45 points: blocks of eight and a tail, from an odd start.
+TEST(Correct2PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
+    TwoPort t(45, 100);
+    const int start = 3, stop = 44;
+    ASSERT_EQ(t.run(start, stop), stop - start);
+    for (int j = start; j < stop; ++j) {
+        LC m[4], s[4];
+        for (int p = 0; p < 4; ++p) m[p] = lc(t.a[12 + p], j);
+        two_port_corrected(m, t.terms(j), s);
+        for (int p = 0; p < 4; ++p) EXPECT_TRUE(close(lc(t.a[16 + p], j), s[p], 1e-13L, j)) << "S" << p;
+    }
+    for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], start, stop));
+}
+
+// A device measured through the forward twelve-term model comes back.
+TEST(Correct2PortTest, UndoesTheTwelveTermModel) {
+    TwoPort t(20, 200);
+    const Trace actual[4] = {random_points(20, 300), random_points(20, 301), random_points(20, 302),
+                             random_points(20, 303)};
+    for (int j = 0; j < t.n; ++j) {
+        LC s[4], m[4];
+        for (int p = 0; p < 4; ++p) s[p] = lc(actual[p], j);
+        two_port_measured(s, t.terms(j), m);
+        for (int p = 0; p < 4; ++p) {
+            t.a[12 + p][2 * j] = static_cast<double>(m[p].real());
+            t.a[12 + p][2 * j + 1] = static_cast<double>(m[p].imag());
+        }
+    }
+    ASSERT_EQ(t.run(0, t.n), t.n);
+    for (int j = 0; j < t.n; ++j)
+        for (int p = 0; p < 4; ++p) EXPECT_TRUE(close(lc(t.a[16 + p], j), lc(actual[p], j), 1e-12L, j)) << "S" << p;
+}
+
+TEST(Correct2PortTest, NullIsolationCountsAsZeroAndNullOutputIsSkipped) {
+    TwoPort zeroed(19, 400), nulled(19, 400);
+    zeroed.a[9] = zeroed.a[10] = filled(19, 0);
+    ASSERT_EQ(zeroed.run(0, 19), 19);
+    ASSERT_EQ(nulled.run(0, 19, (1u << 9) | (1u << 10) | (1u << 17)), 19);
+    for (int p = 0; p < 4; ++p) {
+        if (p == 1) EXPECT_TRUE(untouched_outside(nulled.a[17], 0, 0));
+        else EXPECT_EQ(nulled.a[16 + p], zeroed.a[16 + p]) << "S" << p;
+    }
+}
+
+class Correct2PortNullTest : public ::testing::TestWithParam<int> {};
+TEST_P(Correct2PortNullTest, RequiredArrayMissingWritesNothing) {
+    TwoPort t(10, 500);
+    EXPECT_EQ(t.run(0, 10, 1u << GetParam()), 0);
+    for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], 0, 0));
+}
+// Everything but the two isolation arrays (9, 10) and the outputs (16..19).
+INSTANTIATE_TEST_SUITE_P(Required, Correct2PortNullTest,
+                         ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15));
+
+TEST(Correct2PortTest, EmptyAndNegativeRangesWriteNothing) {
+    TwoPort t(10, 600);
+    EXPECT_EQ(t.run(5, 5), 0);
+    EXPECT_EQ(t.run(7, 2), -5);
+    EXPECT_EQ(t.run(-2, 3), 0);
+    for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], 0, 0));
+}
+
+// With unit tracking, zero offsets and unit load and reverse source match,
+// M = N * match + I. Both cases are run on one point (portable kernel) and on
+// nine (a vector block and a tail).
+TEST(Correct2PortTest, SingularMatrixIsUsedAsTheInversionLeftIt) {
+    struct Case {
+        double measured[4], source_match_fwd;
+        LC want[4];
+    };
+    const Case cases[] = {
+        // M = [[1, 2], [-1, -2]]: the column-0 magnitudes tie, so the upper row
+        // is the pivot; column 0 gives [[1, 2], [1, 0]] and column 1 is
+        // singular. N * [[1, 2], [1, 0]] with N = [[0, 2], [-1, -3]].
+        {{0, 2, -1, -3}, 0.5, {LC(2), LC(0), LC(-4), LC(-2)}},
+        // M = [[0, 5], [0, 4]]: column 0 is singular at once and M is used
+        // unchanged: N * M with N = [[-1, 5], [0, 3]].
+        {{-1, 5, 0, 3}, 1.0, {LC(0), LC(15), LC(0), LC(12)}},
+    };
+    for (const Case& c : cases) {
+        for (const int n : {1, 9}) {
+            TwoPort t(n, 700);
+            for (int p = 0; p < 4; ++p) {
+                t.a[p] = filled(n, 1);
+                t.a[4 + p] = filled(n, p == 0 ? c.source_match_fwd : 1);
+                t.a[8 + p] = filled(n, 0);
+                t.a[12 + p] = filled(n, c.measured[p]);
+            }
+            ASSERT_EQ(t.run(0, n), n);
+            for (int j = 0; j < n; ++j)
+                for (int p = 0; p < 4; ++p) EXPECT_EQ(lc(t.a[16 + p], j), c.want[p]) << "n=" << n << " S" << p;
+        }
+    }
+}

@@ -1,0 +1,77 @@
+// Median: middle samples by hand, the ordering of complex samples, and the
+// temporary copy going through the allocation hooks.
+#include <cstdlib>
+#include <cstring>
+
+#include "support/api_stats.hpp"
+#include "support/vectors.hpp"
+
+using namespace zt;
+
+template <class T> class StatsMedian : public ::testing::Test {
+protected:
+    std::vector<T> run(const std::vector<T>& s, bool complex = false) {
+        Owned<T> in(s, complex), out;
+        EXPECT_EQ(api::median(in.get(), out.get()), 0);
+        EXPECT_EQ(in.scalars(), s);   // the input is never reordered
+        return out.scalars();
+    }
+};
+TYPED_TEST_SUITE(StatsMedian, Precisions);
+
+TYPED_TEST(StatsMedian, MiddleSampleOrMeanOfTheTwoMiddleOnes) {
+    using T = TypeParam;
+    EXPECT_EQ(this->run({T(5), T(1), T(3), T(2)}), std::vector<T>({T(2.5)}));
+    EXPECT_EQ(this->run({T(5), T(1), T(3)}), std::vector<T>({T(3)}));
+    EXPECT_EQ(this->run({T(-7)}), std::vector<T>({T(-7)}));
+    // Complex: by squared magnitude, then real part, then imaginary part.
+    EXPECT_EQ(this->run({T(1), T(0), T(9), T(9), T(0), T(-2)}, true), std::vector<T>({T(0), T(-2)}));
+    // Four samples of |z|² 25 ordered by real part: (-5,0) (0,5) (3,4) (4,3).
+    EXPECT_EQ(this->run({T(3), T(4), T(-5), T(0), T(0), T(5), T(4), T(3)}, true), std::vector<T>({T(1.5), T(4.5)}));
+    // Equal magnitude and real part: by imaginary part, (2,-1) before (2,1).
+    EXPECT_EQ(this->run({T(2), T(1), T(2), T(-1), T(0), T(0)}, true), std::vector<T>({T(2), T(-1)}));
+}
+
+// Hooks that allocate with malloc, count blocks and can refuse the first allocation.
+template <class T> struct BlockHooks {
+    static inline int allocs = 0, frees = 0;
+    static inline bool refuse = false;
+    static void ZF_CDECL alloc(Vec<T>* v) {
+        if (v->alloc > 0) { std::free(v->data); ++frees; }
+        v->data = refuse ? nullptr : static_cast<T*>(std::malloc(zf::need<T>(*v) * sizeof(T)));
+        if (v->data) ++allocs;
+    }
+    static void ZF_CDECL free(Vec<T>* v) { ++frees; std::free(v->data); }
+    explicit BlockHooks(bool refuse_first) {
+        allocs = frees = 0;
+        refuse = refuse_first;
+        api::lib_alloc(&BlockHooks::alloc, nullptr);
+        api::lib_free(&BlockHooks::free, nullptr);
+    }
+    ~BlockHooks() {
+        api::lib_alloc(decltype(&BlockHooks::alloc)(nullptr), nullptr);
+        api::lib_free(decltype(&BlockHooks::free)(nullptr), nullptr);
+    }
+};
+
+TYPED_TEST(StatsMedian, TemporaryIsReleasedThroughTheHooks) {
+    using T = TypeParam;
+    Owned<T> in(std::vector<T>{T(4), T(1), T(3)}), out(std::vector<T>{T(0)});
+    {
+        BlockHooks<T> hooks(false);
+        ASSERT_EQ(api::median(in.get(), out.get()), 0);
+        EXPECT_EQ(BlockHooks<T>::allocs, 1);   // the temporary; the output had room
+        EXPECT_EQ(BlockHooks<T>::frees, 1);
+    }
+    EXPECT_EQ(out.scalars(), std::vector<T>({T(3)}));
+}
+
+TYPED_TEST(StatsMedian, FailedTemporaryGivesMinusOneAndLeavesTheOutput) {
+    using T = TypeParam;
+    Owned<T> in(std::vector<T>{T(4), T(1), T(3)}), out(std::vector<T>{T(8)});
+    const Vec<T> before = out.v;
+    BlockHooks<T> hooks(true);
+    EXPECT_EQ(api::median(in.get(), out.get()), -1);
+    EXPECT_EQ(std::memcmp(&before, &out.v, sizeof before), 0);
+    EXPECT_EQ(out->data[0], T(8));
+}

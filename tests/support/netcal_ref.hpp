@@ -1,0 +1,123 @@
+// Plain references for the matrix kernels and the error correction: long
+// double arithmetic, textbook formulas, random complex data.
+#pragma once
+
+#include <cmath>
+#include <complex>
+#include <random>
+#include <vector>
+
+namespace zt {
+
+using LC = std::complex<long double>;
+
+// Elements of a matrix or points of a trace as interleaved doubles, converted.
+inline LC lc(const std::vector<double>& v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
+inline LC lc(const double* v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
+
+// n complex points (2n doubles), each part uniform in [lo, hi) plus centre on the real part.
+inline std::vector<double> random_points(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0,
+                                         double centre = 0.0) {
+    std::mt19937 gen(seed);
+    std::uniform_real_distribution<double> d(lo, hi);
+    std::vector<double> v(2 * n);
+    for (std::size_t i = 0; i < v.size(); ++i) v[i] = d(gen) + (i % 2 == 0 ? centre : 0.0);
+    return v;
+}
+
+// Matrices as long double complex, row-major; real matrices have zero imaginary parts.
+using LMat = std::vector<LC>;
+
+inline LMat to_lmat(const std::vector<double>& a, int width) {
+    LMat m(a.size() / width);
+    for (std::size_t i = 0; i < m.size(); ++i) m[i] = width == 2 ? lc(a, i) : LC(a[i], 0);
+    return m;
+}
+
+// m x p product by the triple loop.
+inline LMat product(const LMat& a, const LMat& b, int m, int n, int p) {
+    LMat c(static_cast<std::size_t>(m) * p);
+    for (int i = 0; i < m; ++i)
+        for (int j = 0; j < p; ++j) {
+            LC s = 0;
+            for (int k = 0; k < n; ++k) s += a[i * n + k] * b[k * p + j];
+            c[i * p + j] = s;
+        }
+    return c;
+}
+
+// The inverse by Gaussian elimination of [A | I] with partial pivoting and back
+// substitution; empty when a pivot is exactly zero.
+inline LMat inverse(LMat a, int n) {
+    LMat x(static_cast<std::size_t>(n) * n, 0);
+    for (int i = 0; i < n; ++i) x[i * n + i] = 1;
+    for (int k = 0; k < n; ++k) {
+        int r = k;
+        for (int i = k + 1; i < n; ++i)
+            if (std::abs(a[i * n + k]) > std::abs(a[r * n + k])) r = i;
+        if (a[r * n + k] == LC(0)) return {};
+        for (int c = 0; c < n; ++c) {
+            std::swap(a[k * n + c], a[r * n + c]);
+            std::swap(x[k * n + c], x[r * n + c]);
+        }
+        for (int i = k + 1; i < n; ++i) {
+            const LC f = a[i * n + k] / a[k * n + k];
+            for (int c = 0; c < n; ++c) {
+                a[i * n + c] -= f * a[k * n + c];
+                x[i * n + c] -= f * x[k * n + c];
+            }
+        }
+    }
+    for (int k = n - 1; k >= 0; --k)
+        for (int c = 0; c < n; ++c) {
+            LC s = x[k * n + c];
+            for (int j = k + 1; j < n; ++j) s -= a[k * n + j] * x[j * n + c];
+            x[k * n + c] = s / a[k * n + k];
+        }
+    return x;
+}
+
+// Largest element magnitude.
+inline long double max_abs(const LMat& a) {
+    long double m = 0;
+    for (const LC& z : a) m = std::fmax(m, std::abs(z));
+    return m;
+}
+
+// One-port error model: the reading of a standard of reflection g through the
+// terms e00 (directivity), e11 (source match), e10e01 (reflection tracking).
+inline LC one_port_measured(LC g, LC e00, LC e11, LC e10e01) { return e00 + e10e01 * g / (LC(1) - e11 * g); }
+// Its inverse, the corrected reflection.
+inline LC one_port_corrected(LC m, LC e00, LC e11, LC e10e01) {
+    return (m - e00) / (e10e01 + e11 * (m - e00));
+}
+
+// The twelve error terms of a two-port measurement, forward then reverse.
+struct TwelveTerms {
+    LC edf, esf, erf, etf, elf, exf;  // directivity, source match, reflection and transmission tracking, load match, isolation
+    LC edr, esr, err, etr, elr, exr;
+};
+
+// The four readings of a device with S-parameters s[0..3] (S11, S12, S21, S22).
+inline void two_port_measured(const LC s[4], const TwelveTerms& e, LC m[4]) {
+    const LC ds = s[0] * s[3] - s[2] * s[1];
+    const LC df = LC(1) - e.esf * s[0] - e.elf * s[3] + e.esf * e.elf * ds;
+    const LC dr = LC(1) - e.esr * s[3] - e.elr * s[0] + e.esr * e.elr * ds;
+    m[0] = e.edf + e.erf * (s[0] - e.elf * ds) / df;
+    m[2] = e.exf + e.etf * s[2] / df;
+    m[3] = e.edr + e.err * (s[3] - e.elr * ds) / dr;
+    m[1] = e.exr + e.etr * s[1] / dr;
+}
+
+// The corrected S-parameters in closed form from normalised readings.
+inline void two_port_corrected(const LC m[4], const TwelveTerms& e, LC s[4]) {
+    const LC n11 = (m[0] - e.edf) / e.erf, n12 = (m[1] - e.exr) / e.etr;
+    const LC n21 = (m[2] - e.exf) / e.etf, n22 = (m[3] - e.edr) / e.err;
+    const LC d = (LC(1) + n11 * e.esf) * (LC(1) + n22 * e.esr) - n21 * n12 * e.elf * e.elr;
+    s[0] = (n11 * (LC(1) + n22 * e.esr) - e.elf * n21 * n12) / d;
+    s[1] = n12 * (LC(1) + n11 * (e.esf - e.elr)) / d;
+    s[2] = n21 * (LC(1) + n22 * (e.esr - e.elf)) / d;
+    s[3] = (n22 * (LC(1) + n11 * e.esf) - e.elr * n21 * n12) / d;
+}
+
+}  // namespace zt

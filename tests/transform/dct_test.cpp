@@ -1,0 +1,99 @@
+#include "support/vectors.hpp"
+
+#include "support/api_dft.hpp"
+#include "support/dct_ref.hpp"
+#include "support/dft_ref.hpp"
+
+using namespace zt;
+
+namespace {
+
+template <class T> class DctTest : public ::testing::Test {};
+TYPED_TEST_SUITE(DctTest, Precisions);
+
+// Odd, even, power-of-two and chirp-z lengths, and more than 256 twiddles.
+const int kLengths[] = {1, 2, 3, 5, 8, 12, 100, 257, 1024, 1500};
+
+template <class T> std::vector<ref::cld> as_cld(const std::vector<long double>& y) {
+    return std::vector<ref::cld>(y.begin(), y.end());
+}
+
+TYPED_TEST(DctTest, ForwardMatchesDirectDct) {
+    using T = TypeParam;
+    for (int n : kLengths) {
+        for (int flags : {0, 2}) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " flags=" << flags);
+            const std::vector<T> x = random_scalars<T>(n, 40 + n);
+            const auto want = ref::dct(std::vector<long double>(x.begin(), x.end()), flags == 2);
+            Owned<T> v(x, false, T(0.5));
+            ASSERT_EQ(api::dct(v.get(), flags), 0);
+            EXPECT_FALSE(v->complex);
+            ASSERT_EQ(v->points, n);
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), as_cld<T>(want)), ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 1.0 / n, tol<T>() / n);  // 1/(2N·0.5)
+        }
+    }
+}
+
+TYPED_TEST(DctTest, InverseUndoesForward) {
+    using T = TypeParam;
+    for (int n : kLengths) {
+        for (int flags : {0, 2}) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " flags=" << flags);
+            const std::vector<T> x = random_scalars<T>(n, 50 + n);
+            Owned<T> v(x, false, T(3));
+            ASSERT_EQ(api::dct(v.get(), flags), 0);
+            ASSERT_EQ(api::dct(v.get(), flags | 1), 0);
+            EXPECT_FALSE(v->complex);
+            ASSERT_EQ(v->points, n);
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 3.0, 3.0 * tol<T>());
+        }
+    }
+}
+
+// The inverse recovers the samples from the exact coefficients too, so it is
+// the true inverse and not merely the transpose of the forward code.
+TYPED_TEST(DctTest, InverseOfExactCoefficients) {
+    using T = TypeParam;
+    for (int n : {7, 16, 300}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_scalars<T>(n, 60 + n);
+        const auto y = ref::dct(std::vector<long double>(x.begin(), x.end()), false);
+        Owned<T> v(std::vector<T>(y.begin(), y.end()));
+        ASSERT_EQ(api::dct(v.get(), 1), 0);
+        EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
+    }
+}
+
+// With flag 2 the basis is orthogonal: the energy scales by exactly 2/N.
+TYPED_TEST(DctTest, OrthonormalScalingKeepsEnergy) {
+    using T = TypeParam;
+    for (int n : {6, 9, 64}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_scalars<T>(n, 70 + n);
+        Owned<T> v(x);
+        ASSERT_EQ(api::dct(v.get(), 2), 0);
+        double ex = 0, ey = 0;
+        for (T s : x) ex += double(s) * s;
+        for (T s : v.scalars()) ey += double(s) * s;
+        EXPECT_NEAR(ey, ex * 2.0 / n, ex * 2.0 / n * 20 * tol<T>());
+    }
+}
+
+TYPED_TEST(DctTest, BadInputAndEmptyVector) {
+    using T = TypeParam;
+    EXPECT_EQ(api::dct(static_cast<Vec<T>*>(nullptr), 0), -1);
+    Owned<T> c(random_scalars<T>(8, 1), true);
+    EXPECT_EQ(api::dct(c.get(), 0), -1);
+    EXPECT_EQ(api::dct(c.get(), 1), -1);
+    Owned<T> empty;
+    empty->delta = T(4);
+    ASSERT_EQ(api::dct(empty.get(), 0), 0);
+    EXPECT_EQ(empty->delta, T(0.125));
+    empty->delta = T(0);
+    ASSERT_EQ(api::dct(empty.get(), 0), 0);
+    EXPECT_EQ(empty->delta, Traits<T>::huge);
+}
+
+}  // namespace

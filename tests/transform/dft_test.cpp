@@ -1,0 +1,332 @@
+#include "support/vectors.hpp"
+
+#include <cstdlib>
+#include <map>
+
+#include "support/api_dft.hpp"
+#include "support/dft_ref.hpp"
+#include "transform/dft.hpp"
+
+using namespace zt;
+
+namespace {
+
+template <class T> class DftTest : public ::testing::Test {};
+TYPED_TEST_SUITE(DftTest, Precisions);
+
+const long double kPi = 3.141592653589793238462643383279502884L;
+
+// A complex record of n random pairs.
+template <class T> std::vector<T> random_pairs(int n, unsigned seed) {
+    return random_scalars<T>(2 * static_cast<std::size_t>(n), seed);
+}
+
+// Chirp-z lengths (3, 5, 9 use the tightest convolution lengths 4, 8, 16;
+// 4097 = 2^12 + 1 has 2N - 2 exactly a power of two) and power-of-two lengths.
+const int kLengths[] = {3, 5, 9, 12, 100, 1000, 4097, 2, 8, 64, 1024};
+
+// Random pairs that are exact in both precisions, and their exact transform,
+// computed once for both precisions. The inverse direction transforms the
+// conjugate input, whose inverse transform is N·conj(X) with X the forward
+// transform of the input.
+const std::vector<ref::cld>& shared_ref(int n, int dir, std::vector<float>& x) {
+    static std::map<std::pair<int, int>, std::vector<ref::cld>> memo;
+    x = random_pairs<float>(n, 7 + n);
+    auto it = memo.find({n, 0});
+    if (it == memo.end()) it = memo.emplace(std::make_pair(n, 0), ref::forward(ref::from_pairs(x))).first;
+    if (dir == 0) return it->second;
+    for (std::size_t i = 1; i < x.size(); i += 2) x[i] = -x[i];
+    auto inv = memo.find({n, 1});
+    if (inv == memo.end()) {
+        std::vector<ref::cld> w = it->second;
+        for (ref::cld& z : w) z = std::conj(z) * static_cast<long double>(n);
+        inv = memo.emplace(std::make_pair(n, 1), std::move(w)).first;
+    }
+    return inv->second;
+}
+
+TYPED_TEST(DftTest, MatchesDirectDftInBothDirections) {
+    using T = TypeParam;
+    for (int n : kLengths) {
+        for (int dir : {0, 1}) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " direction=" << dir);
+            std::vector<float> xf;
+            const auto& want = shared_ref(n, dir, xf);
+            const std::vector<T> x(xf.begin(), xf.end());
+            Owned<T> v(x, true, T(0.5));
+            ASSERT_EQ(api::dft(v.get(), dir), 0);
+            EXPECT_EQ(v->points, n);
+            EXPECT_TRUE(v->complex);
+            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), want), ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 2.0 / n, 2.0 / n * tol<T>());
+        }
+    }
+}
+
+// The forward transform of a real vector equals that of the complex vector with
+// zero imaginary parts; rdft keeps bins 0 .. N/2 of it.
+TYPED_TEST(DftTest, RealInputAndRdftMatchComplexTransform) {
+    using T = TypeParam;
+    for (int n : {6, 12, 15, 16, 101, 1000}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_scalars<T>(n, 3 + n);
+        std::vector<T> pairs(2 * n, T(0));
+        for (int i = 0; i < n; ++i) pairs[2 * i] = x[i];
+        Owned<T> c(pairs, true), r(x), rd(x);
+        ASSERT_EQ(api::dft(c.get(), 0), 0);
+        ASSERT_EQ(api::dft(r.get(), 0), 0);
+        EXPECT_TRUE(r->complex);
+        EXPECT_TRUE(near_all(r.scalars(), c.scalars(), 0.0));
+        ASSERT_EQ(api::rdft(rd.get()), 0);
+        ASSERT_EQ(rd->points, n / 2 + 1);
+        EXPECT_TRUE(rd->complex);
+        std::vector<T> half = c.scalars();
+        half.resize(2 * (n / 2 + 1));
+        EXPECT_TRUE(near_all(rd.scalars(), half, tol<T>(8)));
+        EXPECT_EQ(rd->delta, c->delta);
+    }
+}
+
+TYPED_TEST(DftTest, ImpulseLinearityAndShift) {
+    using T = TypeParam;
+    for (int n : {12, 100, 4097}) {
+        SCOPED_TRACE(n);
+        // An impulse at 0 has the flat spectrum 1/N.
+        std::vector<T> imp(2 * n, T(0));
+        imp[0] = T(1);
+        Owned<T> d(imp, true);
+        ASSERT_EQ(api::dft(d.get(), 0), 0);
+        std::vector<T> flat(2 * n, T(0));
+        for (int k = 0; k < n; ++k) flat[2 * k] = T(1) / T(n);
+        EXPECT_TRUE(near_all(d.scalars(), flat, tol<T>(16)));
+
+        // Linearity: F(a·x + y) = a·F(x) + F(y).
+        const std::vector<T> x = random_pairs<T>(n, 11), y = random_pairs<T>(n, 12);
+        const T a = T(-1.75);
+        std::vector<T> sum(2 * n);
+        for (int i = 0; i < 2 * n; ++i) sum[i] = a * x[i] + y[i];
+        Owned<T> fx(x, true), fy(y, true), fs(sum, true);
+        ASSERT_EQ(api::dft(fx.get(), 0), 0);
+        ASSERT_EQ(api::dft(fy.get(), 0), 0);
+        ASSERT_EQ(api::dft(fs.get(), 0), 0);
+        std::vector<T> comb(2 * n);
+        for (int i = 0; i < 2 * n; ++i) comb[i] = a * fx.scalars()[i] + fy.scalars()[i];
+        const double scale = 1.0 / std::sqrt(static_cast<double>(n));  // typical bin size
+        EXPECT_TRUE(near_all(fs.scalars(), comb, ref::dft_bound<T>(n) * 4 * scale));
+
+        // Shift: x[n - s] has X[k]·e^(-j2πsk/N).
+        const int s = 5;
+        std::vector<T> shifted(2 * n);
+        for (int i = 0; i < n; ++i) {
+            const int from = ((i - s) % n + n) % n;
+            shifted[2 * i] = x[2 * from];
+            shifted[2 * i + 1] = x[2 * from + 1];
+        }
+        Owned<T> fsh(shifted, true);
+        ASSERT_EQ(api::dft(fsh.get(), 0), 0);
+        std::vector<T> want(2 * n);
+        const std::vector<T> X = fx.scalars();
+        for (int k = 0; k < n; ++k) {
+            const long double ang = -2 * kPi * static_cast<long double>((static_cast<long long>(s) * k) % n) / n;
+            const ref::cld r = ref::cld(X[2 * k], X[2 * k + 1]) * std::polar(1.0L, ang);
+            want[2 * k] = static_cast<T>(r.real());
+            want[2 * k + 1] = static_cast<T>(r.imag());
+        }
+        EXPECT_TRUE(near_all(fsh.scalars(), want, ref::dft_bound<T>(n) * 4 * scale));
+    }
+}
+
+TYPED_TEST(DftTest, InverseOfForwardRestoresSamplesAndSpacing) {
+    using T = TypeParam;
+    for (int n : {3, 12, 1000, 4097}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_pairs<T>(n, 5);
+        Owned<T> v(x, true, T(0.25));
+        ASSERT_EQ(api::dft(v.get(), 0), 0);
+        ASSERT_EQ(api::dft(v.get(), 1), 0);
+        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), ref::from_pairs(x)), 2 * ref::dft_bound<T>(n));
+        EXPECT_NEAR(v->delta, 0.25, 0.25 * tol<T>());
+    }
+}
+
+TYPED_TEST(DftTest, FewerThanTwoPointsChangeOnlyTheSpacing) {
+    using T = TypeParam;
+    Owned<T> one(std::vector<T>{T(3)}, false, T(4));
+    ASSERT_EQ(api::dft(one.get(), 0), 0);
+    EXPECT_FALSE(one->complex);
+    EXPECT_EQ(one.scalars(), std::vector<T>{T(3)});
+    EXPECT_EQ(one->delta, T(0.25));
+    Owned<T> empty;
+    empty->delta = T(0);
+    ASSERT_EQ(api::dft(empty.get(), 1), 0);
+    EXPECT_EQ(empty->delta, Traits<T>::huge);
+    EXPECT_EQ(empty->points, 0);
+}
+
+// Directions other than 0 and 1: a chirp-z length gives the forward sum without
+// 1/N; a power-of-two length goes to the FFT, which takes it as inverse.
+TYPED_TEST(DftTest, OtherDirectionValues) {
+    using T = TypeParam;
+    const std::vector<T> x = random_pairs<T>(12, 9);
+    Owned<T> a(x, true), b(x, true);
+    ASSERT_EQ(api::dft(a.get(), 0), 0);
+    ASSERT_EQ(api::dft(b.get(), 2), 0);
+    std::vector<T> scaled = a.scalars();
+    for (T& s : scaled) s *= T(12);
+    EXPECT_TRUE(near_all(b.scalars(), scaled, tol<T>(64)));
+
+    const std::vector<T> y = random_pairs<T>(16, 9);
+    Owned<T> c(y, true), d(y, true);
+    ASSERT_EQ(api::dft(c.get(), 1), 0);
+    ASSERT_EQ(api::dft(d.get(), -3), 0);
+    EXPECT_EQ(c.scalars(), d.scalars());
+}
+
+// The chirp state serves one length: the other direction of the same length is
+// derived from it exactly, another length or a release rebuilds it.
+TYPED_TEST(DftTest, ChirpStateIsReusedAcrossDirectionsAndRebuiltAfterRelease) {
+    using T = TypeParam;
+    const std::vector<T> x = random_pairs<T>(100, 21);
+    Owned<T> first(x, true);
+    ASSERT_EQ(api::dft(first.get(), 0), 0);
+    const int builds = zf::chirp_builds<T>();
+
+    Owned<T> inv(x, true);
+    ASSERT_EQ(api::dft(inv.get(), 1), 0);
+    EXPECT_LE(ref::rms_rel_error(ref::from_pairs(inv.scalars()), ref::inverse(ref::from_pairs(x))), ref::dft_bound<T>(100));
+    Owned<T> again(x, true);
+    ASSERT_EQ(api::dft(again.get(), 0), 0);
+    EXPECT_EQ(zf::chirp_builds<T>(), builds);
+    EXPECT_EQ(again.scalars(), first.scalars());  // switching direction is exact
+
+    Owned<T> pow2(random_pairs<T>(64, 1), true);
+    ASSERT_EQ(api::dft(pow2.get(), 0), 0);
+    EXPECT_EQ(zf::chirp_builds<T>(), builds);  // the FFT needs no chirp
+
+    Owned<T> other(random_pairs<T>(101, 2), true);
+    ASSERT_EQ(api::dft(other.get(), 0), 0);
+    EXPECT_EQ(zf::chirp_builds<T>(), builds + 1);
+
+    ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
+    Owned<T> after(random_pairs<T>(101, 2), true);
+    ASSERT_EQ(api::dft(after.get(), 0), 0);
+    EXPECT_EQ(zf::chirp_builds<T>(), builds + 2);
+    EXPECT_EQ(after.scalars(), other.scalars());
+}
+
+// The chirp and DCT states are vectors of the library: with hooks installed
+// they are allocated and, on dsp_free_internal, freed through them.
+template <class T> struct HookCount {
+    static inline int allocs = 0, frees = 0;
+    static void ZF_CDECL alloc(Vec<T>* v) {
+        ++allocs;
+        if (v->alloc > 0) std::free(v->data);
+        v->data = static_cast<T*>(std::malloc(zf::need<T>(*v) * sizeof(T)));
+    }
+    static void ZF_CDECL free(Vec<T>* v) {
+        ++frees;
+        std::free(v->data);
+    }
+};
+
+TYPED_TEST(DftTest, StatesAreReleasedThroughTheFreeHook) {
+    using T = TypeParam;
+    using H = HookCount<T>;
+    ASSERT_EQ(api::free_internal<Vec<T>>(), 0);  // nothing cached from before the hooks
+    H::allocs = H::frees = 0;
+    api::lib_alloc(&H::alloc, nullptr);
+    api::lib_free(&H::free, nullptr);
+    {
+        Owned<T> a(random_pairs<T>(12, 3), true), b(random_scalars<T>(10, 4));
+        ASSERT_EQ(api::dft(a.get(), 0), 0);
+        ASSERT_EQ(api::dct(b.get(), 0), 0);
+        EXPECT_GE(H::allocs, 3 + 2);  // chirp, filter, DCT staging, and the two records
+        const int before = H::frees;
+        ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
+        EXPECT_GE(H::frees - before, 3);
+        ASSERT_EQ(api::dft(a.get(), 1), 0);  // rebuilt after the release
+        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(a.scalars()), ref::from_pairs(random_pairs<T>(12, 3))),
+                  2 * ref::dft_bound<T>(12));
+        ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
+    }
+    api::lib_alloc(decltype(&H::alloc)(nullptr), nullptr);
+    api::lib_free(decltype(&H::free)(nullptr), nullptr);
+}
+
+// A record wrapping the caller's array grows into storage of its own; the
+// caller's array is left as it was.
+TYPED_TEST(DftTest, BorrowedStorageIsCopiedNotResized) {
+    using T = TypeParam;
+    std::vector<T> x = random_pairs<T>(12, 4);
+    const std::vector<T> keep = x;
+    Vec<T> v;
+    api::init(&v);
+    v.data = x.data();
+    v.points = 12;
+    v.complex = 1;
+    ASSERT_EQ(api::dft(&v, 0), 0);
+    EXPECT_NE(v.data, x.data());
+    EXPECT_EQ(x, keep);
+    EXPECT_LE(ref::rms_rel_error(ref::from_pairs(std::vector<T>(v.data, v.data + 24)), ref::forward(ref::from_pairs(keep))),
+              ref::dft_bound<T>(12));
+    api::destroy(&v);
+}
+
+TYPED_TEST(DftTest, IrdftInvertsRdft) {
+    using T = TypeParam;
+    for (int n : {2, 3, 12, 13, 16, 100, 101}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_scalars<T>(n, 30 + n);
+        Owned<T> v(x, false, T(2));
+        ASSERT_EQ(api::rdft(v.get()), 0);
+        ASSERT_EQ(api::irdft(v.get(), n % 2), 0);
+        EXPECT_FALSE(v->complex);
+        ASSERT_EQ(v->points, n);
+        EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
+        EXPECT_NEAR(v->delta, 2.0, 2.0 * tol<T>());
+    }
+}
+
+TYPED_TEST(DftTest, OreconMirrorsTheSpectrum) {
+    using T = TypeParam;
+    const std::vector<T> bins = {1, 0, 2, 3, 4, 5, 6, 7, 8, 0};
+    Owned<T> even(bins, true);
+    ASSERT_EQ(api::recon(even.get()), 0);
+    EXPECT_EQ(even.scalars(), (std::vector<T>{1, 0, 2, 3, 4, 5, 6, 7, 8, 0, 6, -7, 4, -5, 2, -3}));
+    Owned<T> odd(bins, true);
+    ASSERT_EQ(api::orecon(odd.get(), 1), 0);
+    EXPECT_EQ(odd.scalars(), (std::vector<T>{1, 0, 2, 3, 4, 5, 6, 7, 8, 0, 8, 0, 6, -7, 4, -5, 2, -3}));
+    Owned<T> real(std::vector<T>{1, 2, 3}, false);
+    ASSERT_EQ(api::orecon(real.get(), 1), 0);
+    EXPECT_EQ(real.scalars(), (std::vector<T>{1, 2, 3, 3, 2}));
+
+    // Too short to mirror: unchanged.
+    Owned<T> two(std::vector<T>{1, 2, 3, 4}, true);
+    ASSERT_EQ(api::orecon(two.get(), 0), 0);
+    EXPECT_EQ(two->points, 2);
+    ASSERT_EQ(api::orecon(two.get(), 1), 0);
+    EXPECT_EQ(two.scalars(), (std::vector<T>{1, 2, 3, 4, 3, -4}));
+}
+
+TYPED_TEST(DftTest, BadRecordsAreRejected) {
+    using T = TypeParam;
+    EXPECT_EQ(api::dft(static_cast<Vec<T>*>(nullptr), 0), -1);
+    EXPECT_EQ(api::rdft(static_cast<Vec<T>*>(nullptr)), -1);
+    EXPECT_EQ(api::irdft(static_cast<Vec<T>*>(nullptr), 0), -1);
+    EXPECT_EQ(api::orecon(static_cast<Vec<T>*>(nullptr), 0), -1);
+    EXPECT_EQ(api::recon(static_cast<Vec<T>*>(nullptr)), -1);
+    Vec<T> bad;
+    api::init(&bad);
+    bad.points = 12;  // samples without data
+    EXPECT_EQ(api::dft(&bad, 0), -1);
+    EXPECT_EQ(api::irdft(&bad, 1), -1);
+    bad.points = -3;
+    EXPECT_EQ(api::dft(&bad, 0), -1);
+    Owned<T> small(random_pairs<T>(6, 1), true);
+    small->points = 7;  // owned storage too small for the shape
+    EXPECT_EQ(api::dft(small.get(), 0), -1);
+    small->points = 6;
+    EXPECT_EQ(api::rdft(small.get()), -1);  // complex input
+}
+
+}  // namespace

@@ -1,0 +1,120 @@
+#include "support/vectors.hpp"
+
+#include "support/api_dft.hpp"
+#include "support/dft_ref.hpp"
+
+using namespace zt;
+
+namespace {
+
+template <class T> class HilbertTest : public ::testing::Test {};
+TYPED_TEST_SUITE(HilbertTest, Precisions);
+
+const long double kPi = 3.141592653589793238462643383279502884L;
+
+// cos(2πfn/N + φ) sampled at n = 0 .. N-1, and the matching sine.
+template <class T> std::vector<T> tone(int n, int f, long double phase, bool sine) {
+    std::vector<T> x(n);
+    for (int i = 0; i < n; ++i) {
+        const long double a = 2 * kPi * static_cast<long double>((static_cast<long long>(f) * i) % n) / n + phase;
+        x[i] = static_cast<T>(sine ? std::sin(a) : std::cos(a));
+    }
+    return x;
+}
+
+TYPED_TEST(HilbertTest, CosineBecomesSineAndStaysReal) {
+    using T = TypeParam;
+    for (int n : {12, 15, 16, 1000}) {
+        SCOPED_TRACE(n);
+        Owned<T> v(tone<T>(n, 3, 0.3L, false), false, T(0.1));
+        ASSERT_EQ(api::hilbert(v.get()), 0);
+        EXPECT_FALSE(v->complex);
+        ASSERT_EQ(v->points, n);
+        EXPECT_TRUE(near_all(v.scalars(), tone<T>(n, 3, 0.3L, true), 4 * ref::dft_bound<T>(n)));
+        EXPECT_NEAR(v->delta, 0.1, 0.1 * tol<T>());
+    }
+}
+
+// Against the direct DFT with the bins turned by ∓90°, for complex input.
+TYPED_TEST(HilbertTest, ComplexInputMatchesReference) {
+    using T = TypeParam;
+    for (int n : {9, 10, 32}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_scalars<T>(2 * n, 80 + n);
+        auto X = ref::forward(ref::from_pairs(x));
+        for (int k = 0; k < n; ++k) {
+            if (k == 0 || 2 * k == n) X[k] = 0;
+            else X[k] *= 2 * k < n ? ref::cld(0, -1) : ref::cld(0, 1);
+        }
+        const auto want = ref::inverse(X);
+        Owned<T> v(x, true);
+        ASSERT_EQ(api::hilbert(v.get()), 0);
+        EXPECT_TRUE(v->complex);
+        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), want), 2 * ref::dft_bound<T>(n));
+    }
+}
+
+TYPED_TEST(HilbertTest, AnalyticSignalOfCosineIsComplexExponential) {
+    using T = TypeParam;
+    for (int n : {12, 15, 16, 1000}) {
+        SCOPED_TRACE(n);
+        Owned<T> v(tone<T>(n, 4, 0.0L, false));
+        ASSERT_EQ(api::analytic(v.get()), 0);
+        EXPECT_TRUE(v->complex);
+        ASSERT_EQ(v->points, n);
+        std::vector<T> want(2 * n);
+        const std::vector<T> c = tone<T>(n, 4, 0.0L, false), s = tone<T>(n, 4, 0.0L, true);
+        for (int i = 0; i < n; ++i) {
+            want[2 * i] = c[i];
+            want[2 * i + 1] = s[i];
+        }
+        EXPECT_TRUE(near_all(v.scalars(), want, 4 * ref::dft_bound<T>(n)));
+    }
+}
+
+// For real input: the real part is the input, the imaginary part its Hilbert
+// transform, and no energy is left at negative frequencies.
+TYPED_TEST(HilbertTest, AnalyticSignalSpectrumIsOneSided) {
+    using T = TypeParam;
+    for (int n : {11, 12, 64}) {
+        SCOPED_TRACE(n);
+        const std::vector<T> x = random_scalars<T>(n, 90 + n);
+        Owned<T> a(x), h(x);
+        ASSERT_EQ(api::analytic(a.get()), 0);
+        ASSERT_EQ(api::hilbert(h.get()), 0);
+        const std::vector<T> z = a.scalars();
+        std::vector<T> re(n), im(n);
+        for (int i = 0; i < n; ++i) {
+            re[i] = z[2 * i];
+            im[i] = z[2 * i + 1];
+        }
+        EXPECT_TRUE(near_all(re, x, 4 * ref::dft_bound<T>(n)));
+        EXPECT_TRUE(near_all(im, h.scalars(), 4 * ref::dft_bound<T>(n)));
+
+        const auto X = ref::forward(ref::from_reals(x));
+        const auto Z = ref::forward(ref::from_pairs(z));
+        for (int k = 0; k < n; ++k) {
+            const ref::cld want = k == 0 || 2 * k == n ? X[k] : 2 * k < n ? 2.0L * X[k] : ref::cld(0);
+            EXPECT_NEAR(static_cast<double>(std::abs(Z[k] - want)), 0.0, 8 * ref::dft_bound<T>(n)) << "bin " << k;
+        }
+    }
+}
+
+TYPED_TEST(HilbertTest, EdgeLengthsAndBadRecords) {
+    using T = TypeParam;
+    EXPECT_EQ(api::hilbert(static_cast<Vec<T>*>(nullptr)), -1);
+    EXPECT_EQ(api::analytic(static_cast<Vec<T>*>(nullptr)), -1);
+    Owned<T> empty;
+    EXPECT_EQ(api::hilbert(empty.get()), 0);
+    EXPECT_EQ(api::analytic(empty.get()), 0);
+    EXPECT_EQ(empty->points, 0);
+    // One sample: no frequency but DC, so the transform is 0 and the analytic
+    // signal is the sample itself.
+    Owned<T> one(std::vector<T>{T(2.5)}), two(std::vector<T>{T(2.5)});
+    ASSERT_EQ(api::hilbert(one.get()), 0);
+    EXPECT_EQ(one.scalars(), std::vector<T>{T(0)});
+    ASSERT_EQ(api::analytic(two.get()), 0);
+    EXPECT_EQ(two.scalars(), (std::vector<T>{T(2.5), T(0)}));
+}
+
+}  // namespace
