@@ -107,22 +107,24 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept {
     if (!t.offset[0] || !t.offset[3]) return 0;
     if (!runnable(start, stop)) return range_result(start, stop);
     int j = start;
-    if (have_avx2()) {
+    void (*const x8)(const TwoPortArrays&, int) noexcept =
+        have_avx512() ? correct_2port_x8_avx512 : have_avx2() ? correct_2port_x8_avx2 : nullptr;
+    if (x8) {
         for (; stop - j >= 8; j += 8) {
             RoundingGuard guard;
-            correct_2port_x8_avx2(t, j);
+            x8(t, j);
         }
     }
     correct_2port_portable(t, j, stop);
     return stop - start;
 }
 
-bool have_avx2() noexcept {
 #if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
-    return __builtin_cpu_supports("avx2");
+bool have_avx2() noexcept { return __builtin_cpu_supports("avx2"); }
+bool have_avx512() noexcept { return __builtin_cpu_supports("avx512f"); }
 #else
-    return false;
+bool have_avx2() noexcept { return false; }
+bool have_avx512() noexcept { return false; }
 #endif
-}
 
 }  // namespace zf

@@ -50,10 +50,12 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept;
 // compare them. The portable one corrects the points [start, stop). The AVX2
 // one corrects the eight points from start and gives results identical to the
 // portable kernel; it is called only when the processor has AVX2, inside the
-// caller's rounding guard.
+// caller's rounding guard; the AVX-512 one likewise.
 void correct_2port_portable(const TwoPortArrays& t, int start, int stop) noexcept;
 void correct_2port_x8_avx2(const TwoPortArrays& t, int start) noexcept;
+void correct_2port_x8_avx512(const TwoPortArrays& t, int start) noexcept;
 bool have_avx2() noexcept;
+bool have_avx512() noexcept;
 
 // The performance-counter frequency in ticks per second (QueryPerformanceFrequency
 // on Windows, the monotonic clock's tick rate elsewhere).
