@@ -3,23 +3,11 @@
 #include <cstddef>
 
 #include "elementwise/rearrange.hpp"
+#include "elementwise/unary.hpp"
 
 namespace zf {
 
 namespace {
-
-// Squared magnitude from parts clamped to the saturation value: a part beyond
-// +-huge makes the magnitude huge.
-template <class T> inline T clamped_magsq(T re, T im) noexcept {
-    const T huge = Traits<T>::huge;
-    const bool outside = (re > huge) | (re < -huge) | (im > huge) | (im < -huge);
-    return outside ? huge : re * re + im * im;
-}
-
-template <class T> inline T clamp_huge(T x) noexcept {
-    const T huge = Traits<T>::huge;
-    return x > huge ? huge : (x < -huge ? -huge : x);
-}
 
 // Quotient part for a zero divisor: huge without sign where the dividend is
 // nonzero, 0 where it is zero.
@@ -98,7 +86,7 @@ template <class T> struct MinOp {
     static constexpr bool scalarwise = false;
     T rr(T a, T b) const noexcept { return b <= a ? b : a; }
     void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept {
-        const bool take_b = clamped_magsq(br, bi) <= clamped_magsq(ar, ai);
+        const bool take_b = saturated_norm(br, bi) <= saturated_norm(ar, ai);
         re = take_b ? br : ar;
         im = take_b ? bi : ai;
     }
@@ -111,7 +99,7 @@ template <class T> struct MaxOp {
     static constexpr bool scalarwise = false;
     T rr(T a, T b) const noexcept { return b >= a ? b : a; }
     void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept {
-        const bool take_b = clamped_magsq(br, bi) >= clamped_magsq(ar, ai);
+        const bool take_b = saturated_norm(br, bi) >= saturated_norm(ar, ai);
         re = take_b ? br : ar;
         im = take_b ? bi : ai;
     }

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "core/random.hpp"
+#include "elementwise/unary.hpp"
 
 namespace zf {
 
@@ -29,16 +30,8 @@ template <class T> inline int order(T a, T b) noexcept {
     return 0;
 }
 
-// Squared magnitude with each part clamped to the saturation value: a part
-// outside +-huge makes the magnitude huge.
-template <class T> inline T clamped_magsq(const Pair<T>& z) noexcept {
-    const T huge = Traits<T>::huge;
-    if (z.re > huge || z.re < -huge || z.im > huge || z.im < -huge) return huge;
-    return z.re * z.re + z.im * z.im;
-}
-
 template <class T> inline bool pair_less(const Pair<T>& a, const Pair<T>& b) noexcept {
-    int r = order(clamped_magsq(a), clamped_magsq(b));
+    int r = order(saturated_norm(a.re, a.im), saturated_norm(b.re, b.im));
     if (r == 0) r = order(a.re, b.re);
     if (r == 0) r = order(a.im, b.im);
     return r < 0;

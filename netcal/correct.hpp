@@ -47,10 +47,10 @@ struct TwoPortArrays {
 int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept;
 
 // The per-point two-port kernels behind correct_2port, for the tests that
-// compare them. The portable one corrects the points [start, stop). The AVX2
-// one corrects the eight points from start and gives results identical to the
-// portable kernel; it is called only when the processor has AVX2, inside the
-// caller's rounding guard; the AVX-512 one likewise.
+// compare them. The portable one corrects the points [start, stop). The two
+// vector ones correct the eight points from start with results identical to
+// the portable kernel's; each runs only on a processor with its instruction
+// set (have_avx2, have_avx512), inside the caller's rounding guard.
 void correct_2port_portable(const TwoPortArrays& t, int start, int stop) noexcept;
 void correct_2port_x8_avx2(const TwoPortArrays& t, int start) noexcept;
 void correct_2port_x8_avx512(const TwoPortArrays& t, int start) noexcept;

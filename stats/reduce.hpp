@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cmath>
+#include <cstddef>
 
 #include "core/vector.hpp"
 
@@ -14,7 +15,8 @@ namespace stats {
 // of rounding error on long vectors.
 constexpr int kBlock = 2048;
 
-// Σ term(i) for i in [0, n), block by block. A may be a scalar or one of the
+// Σ term(i) for i in [0, n), block by block (i is wide enough to be doubled
+// for the scalars of complex samples). A may be a scalar or one of the
 // small accumulator records below (value-initialised to zero, with +=).
 // Four whole blocks are summed side by side, each into its own partial sum
 // that sees exactly the additions it would see alone, and the partial sums
@@ -23,10 +25,10 @@ constexpr int kBlock = 2048;
 // adders busy.
 template <class A, class Term> inline A blockwise(int n, Term term) noexcept {
     A total{};
-    int start = 0;
+    std::ptrdiff_t start = 0;
     for (; n - start >= 4 * kBlock; start += 4 * kBlock) {
         A p0{}, p1{}, p2{}, p3{};
-        for (int i = start; i < start + kBlock; ++i) {
+        for (std::ptrdiff_t i = start; i < start + kBlock; ++i) {
             p0 += term(i);
             p1 += term(i + kBlock);
             p2 += term(i + 2 * kBlock);
@@ -38,9 +40,9 @@ template <class A, class Term> inline A blockwise(int n, Term term) noexcept {
         total += p3;
     }
     for (; start < n; start += kBlock) {
-        const int stop = n - start < kBlock ? n : start + kBlock;
+        const std::ptrdiff_t stop = n - start < kBlock ? n : start + kBlock;
         A part{};
-        for (int i = start; i < stop; ++i) part += term(i);
+        for (std::ptrdiff_t i = start; i < stop; ++i) part += term(i);
         total += part;
     }
     return total;
@@ -57,10 +59,11 @@ template <class A, int N> struct Sums {
 };
 
 // x limited to [-g, g]; not-a-number counts as overflow and becomes g.
-// (Written as the two comparisons that map onto the processor's max and min.)
+// Values inside are by far the common case; saying so keeps the compiler from
+// laying the loop out around the clamped ones.
 template <class A> inline A clamp(A x, A g) noexcept {
-    const A y = -g > x ? -g : x;
-    return y < g ? y : g;
+    if (__builtin_expect(x >= -g && x <= g, 1)) return x;
+    return x < -g ? -g : g;
 }
 
 // Squared magnitude of one sample for the ranking and power rules: g when a

@@ -52,6 +52,25 @@ TYPED_TEST(ConvertTest, MagnitudeSquaredSaturates) {
     EXPECT_EQ(c.scalars(), (std::vector<T>{huge, T(25), huge * huge * T(2)}));
 }
 
+// Conversions with a real result leave an empty complex vector as it is:
+// still complex, capacity and tags untouched.
+TYPED_TEST(ConvertTest, EmptyComplexVectorStaysComplex) {
+    using T = TypeParam;
+    int (*ops[])(Vec<T>*) = {api::real, api::imag, api::mag, api::magsq, api::phase};
+    for (auto op : ops) {
+        Owned<T> v({T(1), T(2), T(3), T(4)}, true, T(0.5));
+        v.v.points = 0;
+        v.v.type = 7;
+        ASSERT_EQ(op(v.get()), 0);
+        EXPECT_EQ(v.v.complex, 1);
+        EXPECT_EQ(v.v.points, 0);
+        EXPECT_EQ(v.v.alloc, 4);
+        EXPECT_EQ(v.v.delta, T(0.5));
+        EXPECT_EQ(v.v.type, 7);
+        EXPECT_EQ(std::vector<T>(v.v.data, v.v.data + 4), (std::vector<T>{T(1), T(2), T(3), T(4)}));
+    }
+}
+
 // dspu_mag and dspu_magsq: distinct destination sized from the source (which
 // stays as it was), the destination being the source record itself, and a
 // destination that shares the source's storage.
