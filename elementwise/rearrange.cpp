@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
+#include <cstring>
 
 #include "core/random.hpp"
 #include "elementwise/unary.hpp"
@@ -11,9 +13,9 @@ namespace zf {
 
 namespace {
 
-// One complex sample as the sort sees it. The record's scalars are viewed as
-// an array of these (same size, same alignment, no padding), so that the
-// standard sort moves whole pairs.
+// One complex sample as the sort sees it. The record's scalars are copied
+// into an array of these (same size, no padding) and back, so that the
+// standard sort moves whole pairs without viewing the scalars as another type.
 template <class T> struct Pair {
     T re, im;
 };
@@ -89,8 +91,13 @@ template <class T> int sort(Vec<T>* v) noexcept {
         std::sort(d, nans);
         return 0;
     }
-    Pair<T>* p = reinterpret_cast<Pair<T>*>(v->data);
+    const std::size_t bytes = static_cast<std::size_t>(n) * sizeof(Pair<T>);
+    Pair<T>* p = static_cast<Pair<T>*>(std::malloc(bytes));
+    if (!p) return -1;
+    std::memcpy(p, v->data, bytes);
     std::sort(p, p + n, pair_less<T>);
+    std::memcpy(v->data, p, bytes);
+    std::free(p);
     return 0;
 }
 
