@@ -36,14 +36,15 @@ template <class T> int find_max(const T* data, int start, int stop) noexcept;
 
 // Index of the first element after start that is below the largest finite T
 // and smallest among data[start+1 .. stop-1]; data[start] itself is never
-// compared, so start comes back when no later element qualifies. -1 for null
-// data or a negative start.
+// compared, so start comes back when no later element qualifies (start = -1
+// thus searches from data[0]). -1 for null data or a start below -1.
 template <class T> int find_min(const T* data, int start, int stop) noexcept;
 
 // As find_max / find_min over [start, stop) without [excl_from, excl_to),
 // but both start from a real element: start itself when the range is empty
 // and start lies outside the band; -1 when start lies in the band and the band
-// reaches stop, for null data and for a negative start.
+// reaches stop, for null data and when the first element to read (start, or
+// excl_to for a start in the band) has a negative index.
 template <class T> int find_max2(const T* data, int start, int stop, int excl_from, int excl_to) noexcept;
 template <class T> int find_min2(const T* data, int start, int stop, int excl_from, int excl_to) noexcept;
 

@@ -24,7 +24,9 @@ extern "C" {
  * reversed range never makes them read or write outside the arrays: they then
  * write nothing and answer as named below. The searches answer start without
  * reading when their range holds at most one value, and -1 (FindMinMax 0) for
- * null data or a negative start. */
+ * null data or when the first value they read would lie before data[0] (a
+ * negative start, except that FindMin never reads data[start] and the band
+ * searches never read a start inside the band). */
 
 /* data[i] *= factor for i in [0, n); nothing for n <= 0. */
 ZF_API void ZF_CDECL vfpdbMul(double factor, double *data, int n);
