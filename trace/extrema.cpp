@@ -82,9 +82,12 @@ template <class T> int find_min2(const T* data, int start, int stop, int excl_fr
 }
 
 template <class T> int find_min_max(const T* data, int start, int stop, int* imax, int* imin) noexcept {
-    if (start > stop || start < 0 || !data || !imax || !imin) return 0;
+    if (start > stop || !data || !imax || !imin) return 0;
+    // With at most one value both indices are start, whatever data[start] holds.
+    const bool several = static_cast<long long>(stop) > static_cast<long long>(start) + 1;
+    if (several && start < 0) return 0;
     *imax = *imin = start;
-    if (start == stop) return 1;
+    if (!several) return 1;
     T lo = data[start], hi = lo;
     int lo_at = start, hi_at = start;
     for (int i = start + 1; i < stop; ++i) {

@@ -49,7 +49,8 @@ template <class T> int find_max2(const T* data, int start, int stop, int excl_fr
 template <class T> int find_min2(const T* data, int start, int stop, int excl_from, int excl_to) noexcept;
 
 // Both extremes of [start, stop) in one pass (the first of equal extremes).
-// Returns 1, or 0 when start > stop, start < 0 or a pointer is null.
+// Returns 1 (both indices start when the range holds at most one value), or 0
+// when start > stop, a pointer is null, or start < 0 with more than one value.
 template <class T> int find_min_max(const T* data, int start, int stop, int* imax, int* imin) noexcept;
 
 // Axes -----------------------------------------------------------------------

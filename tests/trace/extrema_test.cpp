@@ -100,4 +100,15 @@ TYPED_TEST(TraceExtremaTest, MinMaxArgumentChecks) {
     EXPECT_EQ(api::find_min_max(d.data(), 0, 3, &imax, nullptr), 0);
     EXPECT_EQ(api::find_min_max(static_cast<const T*>(nullptr), 0, 3, &imax, &imin), 0);
     EXPECT_EQ(imax + imin, -18);
+    // A range of at most one value answers start for both, even a negative one;
+    // more values from a negative start would read before the array.
+    for (auto [start, stop] : {std::pair{-1, -1}, {-1, 0}, {-7, -6}, {1, 2}}) {
+        imax = imin = -9;
+        EXPECT_EQ(api::find_min_max(d.data(), start, stop, &imax, &imin), 1) << start;
+        EXPECT_EQ(imax, start);
+        EXPECT_EQ(imin, start);
+    }
+    imax = imin = -9;
+    EXPECT_EQ(api::find_min_max(d.data(), -1, 2, &imax, &imin), 0);
+    EXPECT_EQ(imax + imin, -18);
 }
