@@ -38,24 +38,22 @@ template <class T> void BM_baseline_stream_copy(benchmark::State& state) {
     set_counters<T>(state, n, 2);
 }
 
-template <class T> void BM_arith_scale(benchmark::State& state) {
+// An operation that can run on its own result again and again.
+template <class T, class Op> void repeated(benchmark::State& state, Op op) {
     const int n = static_cast<int>(state.range(0));
     zb::Filled<T> v(n, false);
     for (auto _ : state) {
-        zf::scale<T>(v.get(), T(-1));
+        op(v.get());
         benchmark::ClobberMemory();
     }
     set_counters<T>(state, n, 2);
 }
 
+template <class T> void BM_arith_scale(benchmark::State& state) {
+    repeated<T>(state, [](zf::Vec<T>* v) { zf::scale<T>(v, T(-1)); });
+}
 template <class T> void BM_arith_offset(benchmark::State& state) {
-    const int n = static_cast<int>(state.range(0));
-    zb::Filled<T> v(n, false);
-    for (auto _ : state) {
-        zf::offset<T>(v.get(), T(1e-3));
-        benchmark::ClobberMemory();
-    }
-    set_counters<T>(state, n, 2);
+    repeated<T>(state, [](zf::Vec<T>* v) { zf::offset<T>(v, T(1e-3)); });
 }
 
 // In place, complex to real; only the shape is restored between runs. Parts of

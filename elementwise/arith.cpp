@@ -15,7 +15,7 @@ template <class T> inline T real_sqrt(T x) noexcept { return x >= T(0) ? std::sq
 template <class T> inline void complex_sqrt(T& re, T& im) noexcept {
     const T m = (beyond(re) || beyond(im)) ? Traits<T>::huge : std::sqrt(re * re + im * im);
     const T r = std::sqrt(m);
-    if (!(r > T(0))) {
+    if (r <= T(0)) {
         re = T(0);
         im = T(0);
         return;

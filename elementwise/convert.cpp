@@ -61,7 +61,7 @@ template <class T> int ptor(Vec<T>* v) noexcept {
 
 template <class T> int real(Vec<T>* v) noexcept {
     if (!readable<T>(v)) return -1;
-    if (v->complex) {
+    if (v->complex && v->points > 0) {
         pack_pairs(v->data, v->data, static_cast<std::size_t>(v->points), [](T re, T) { return re; });
         v->complex = 0;
     }

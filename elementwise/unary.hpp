@@ -84,10 +84,12 @@ template <class T, class Spread, class F> int to_complex(Vec<T>* v, Spread sprea
 }
 
 // A real result: a complex vector becomes real with f(re, im) packed into its
-// first points scalars (capacity kept); a real one is mapped by g(x).
+// first points scalars (capacity kept); a real one is mapped by g(x). A complex
+// vector of no points is left as it is, still complex.
 template <class T, class G, class F> int to_real(Vec<T>* v, G g, F f) noexcept {
     if (!readable<T>(v)) return -1;
     if (v->complex) {
+        if (v->points == 0) return 0;
         pack_pairs(v->data, v->data, static_cast<std::size_t>(v->points), f);
         v->complex = 0;
     } else {

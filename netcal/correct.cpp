@@ -10,7 +10,8 @@ namespace {
 // null checks: the point count, negative or zero for an empty range, and 0 for
 // a range that starts before the first point.
 int range_result(int start, int stop) noexcept {
-    if (stop <= start) return stop - start;
+    if (stop <= start)  // wrapping, like the 32-bit subtraction it stands for
+        return static_cast<int>(static_cast<unsigned>(stop) - static_cast<unsigned>(start));
     return start < 0 ? 0 : stop - start;
 }
 bool runnable(int start, int stop) noexcept { return start >= 0 && start < stop; }
@@ -25,8 +26,9 @@ void compute_1port_terms(Cx* m1, Cx* m2, Cx* m3, const Cx* g1, const Cx* g2, con
     unsigned perm[3];
     const Cx one = unit<Cx>();
     for (int j = start; j < stop; ++j) {
-        // Each standard gives one row of m = e00 + g*m*e11 - g*(e00*e11 - e10e01)
-        // in the unknowns (e00*e11 - e10e01, e00, e11).
+        // Each standard gives one row [g, 1, -g*m] x = m of the model
+        // m = e00 + g*m*e11 - g*(e00*e11 - e10e01), whose unknowns are
+        // x = (e10e01 - e00*e11, e00, -e11).
         const Cx g[3] = {g1[j], g2[j], g3[j]};
         rhs[0] = m1[j];
         rhs[1] = m2[j];
@@ -62,8 +64,9 @@ int apply_enhanced_response(const Cx* directivity, const Cx* source_match, const
     if (!directivity || !source_match || !tracking || !transmission_tracking || !measured_s11 ||
         !measured_s21)
         return 0;
-    if (!runnable(start, stop)) return range_result(start, stop);
     const bool with_load = (use_load_match & 0xFF) != 0;
+    if (with_load && !load_match) return 0;
+    if (!runnable(start, stop)) return range_result(start, stop);
     for (int j = start; j < stop; ++j) {
         const Cx d = measured_s11[j] - directivity[j];
         const Cx s = tracking[j] + source_match[j] * d;
@@ -104,22 +107,24 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept {
     if (!t.offset[0] || !t.offset[3]) return 0;
     if (!runnable(start, stop)) return range_result(start, stop);
     int j = start;
-    if (have_avx2()) {
+    void (*const x8)(const TwoPortArrays&, int) noexcept =
+        have_avx512() ? correct_2port_x8_avx512 : have_avx2() ? correct_2port_x8_avx2 : nullptr;
+    if (x8) {
         for (; stop - j >= 8; j += 8) {
             RoundingGuard guard;
-            correct_2port_x8_avx2(t, j);
+            x8(t, j);
         }
     }
     correct_2port_portable(t, j, stop);
     return stop - start;
 }
 
-bool have_avx2() noexcept {
 #if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
-    return __builtin_cpu_supports("avx2");
+bool have_avx2() noexcept { return __builtin_cpu_supports("avx2"); }
+bool have_avx512() noexcept { return __builtin_cpu_supports("avx512f"); }
 #else
-    return false;
+bool have_avx2() noexcept { return false; }
+bool have_avx512() noexcept { return false; }
 #endif
-}
 
 }  // namespace zf

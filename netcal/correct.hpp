@@ -24,7 +24,8 @@ int correct_1port(const Cx* directivity, const Cx* source_match, const Cx* track
                   const Cx* measured, Cx* corrected, int start, int stop) noexcept;
 
 // Enhanced-response correction of S11 and S21; either output may be null,
-// load_match is read only when the low byte of use_load_match is nonzero.
+// load_match is read (and required) only when the low byte of use_load_match
+// is nonzero. stop - start; 0 for a missing input or a range starting below 0.
 int apply_enhanced_response(const Cx* directivity, const Cx* source_match, const Cx* tracking,
                             const Cx* load_match, const Cx* transmission_tracking,
                             const Cx* measured_s11, const Cx* measured_s21, Cx* corrected_s11,
@@ -46,13 +47,15 @@ struct TwoPortArrays {
 int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept;
 
 // The per-point two-port kernels behind correct_2port, for the tests that
-// compare them. The portable one corrects the points [start, stop); the AVX2
-// one corrects the eight points from start (to be called only when the
-// processor has AVX2, inside the caller's rounding guard) and gives results
-// identical to the portable kernel.
+// compare them. The portable one corrects the points [start, stop). The two
+// vector ones correct the eight points from start with results identical to
+// the portable kernel's; each runs only on a processor with its instruction
+// set (have_avx2, have_avx512), inside the caller's rounding guard.
 void correct_2port_portable(const TwoPortArrays& t, int start, int stop) noexcept;
 void correct_2port_x8_avx2(const TwoPortArrays& t, int start) noexcept;
+void correct_2port_x8_avx512(const TwoPortArrays& t, int start) noexcept;
 bool have_avx2() noexcept;
+bool have_avx512() noexcept;
 
 // The performance-counter frequency in ticks per second (QueryPerformanceFrequency
 // on Windows, the monotonic clock's tick rate elsewhere).

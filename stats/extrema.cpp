@@ -21,7 +21,7 @@ int extremum(const Vec<T>* in, Vec<T>* out, T best, T start_re, T start_im, Bett
     if (n <= 0) return put<T>(out, in->complex, T(0), T(0));
     if (!in->complex) {
         T r = best;
-        for (int i = 0; i < n; ++i)
+        for (std::ptrdiff_t i = 0; i < n; ++i)
             if (better(x[i], r)) r = x[i];
         return put<T>(out, 0, r);
     }
@@ -29,7 +29,7 @@ int extremum(const Vec<T>* in, Vec<T>* out, T best, T start_re, T start_im, Bett
     const A g = Traits<T>::huge;
     A rank = best;
     T re = start_re, im = start_im;
-    for (int i = 0; i < n; ++i) {
+    for (std::ptrdiff_t i = 0; i < n; ++i) {
         const A m = stats::guarded_square(A(x[2 * i]), A(x[2 * i + 1]), g);
         if (better(m, rank)) {
             rank = m;

@@ -24,11 +24,11 @@ template <class T> int gmean(const Vec<T>* in, Vec<T>* out) noexcept {
     if (n <= 0) return put<T>(out, in->complex, A(0), A(0));
     if (!in->complex) {
         A p = 1;
-        for (int i = 0; i < n; ++i) p *= A(x[i]);
+        for (std::ptrdiff_t i = 0; i < n; ++i) p *= A(x[i]);
         return put<T>(out, 0, p >= tiny ? std::exp(std::log(p) / n) : A(0));
     }
     A pr = 1, pi = 0;
-    for (int i = 0; i < n; ++i) {
+    for (std::ptrdiff_t i = 0; i < n; ++i) {
         const A re = x[2 * i], im = x[2 * i + 1];
         const A r = pr * re - pi * im;
         pi = pr * im + pi * re;
@@ -57,7 +57,7 @@ template <class T> int hmean(const Vec<T>* in, Vec<T>* out) noexcept {
         for (int start = 0; start < n; start += stats::kBlock) {
             const int stop = n - start < stats::kBlock ? n : start + stats::kBlock;
             A part = 0;
-            for (int i = start; i < stop; ++i) {
+            for (std::ptrdiff_t i = start; i < stop; ++i) {
                 if (x[i] == T(0)) return put<T>(out, 0, A(0));
                 part += A(1) / A(x[i]);
             }
@@ -65,7 +65,7 @@ template <class T> int hmean(const Vec<T>* in, Vec<T>* out) noexcept {
         }
         return put<T>(out, 0, s == A(0) ? g : n / s);
     }
-    const auto s = blockwise<Sums<A, 2>>(n, [=](int i) {
+    const auto s = blockwise<Sums<A, 2>>(n, [=](std::ptrdiff_t i) {
         const A re = stats::clamp(A(x[2 * i]), g), im = stats::clamp(A(x[2 * i + 1]), g);
         const A m = re * re + im * im;
         const A r = m == A(0) ? g : A(1) / m;

@@ -20,8 +20,8 @@ template <class T> Sums<Acc<T>, 2> part_sums(const Vec<T>& v) noexcept {
     using A = Acc<T>;
     const T* x = v.data;
     if (v.complex)
-        return blockwise<Sums<A, 2>>(v.points, [x](int i) { return Sums<A, 2>{{A(x[2 * i]), A(x[2 * i + 1])}}; });
-    return Sums<A, 2>{{blockwise<A>(v.points, [x](int i) { return A(x[i]); }), A(0)}};
+        return blockwise<Sums<A, 2>>(v.points, [x](std::ptrdiff_t i) { return Sums<A, 2>{{A(x[2 * i]), A(x[2 * i + 1])}}; });
+    return Sums<A, 2>{{blockwise<A>(v.points, [x](std::ptrdiff_t i) { return A(x[i]); }), A(0)}};
 }
 
 // Σ x² (real) or Σ re² + im² (complex); a sample with a part beyond the guard adds the guard.
@@ -30,8 +30,8 @@ template <class T> Acc<T> power_sum(const Vec<T>& v) noexcept {
     const A g = Traits<T>::huge;
     const T* x = v.data;
     if (v.complex)
-        return blockwise<A>(v.points, [x, g](int i) { return stats::guarded_square(A(x[2 * i]), A(x[2 * i + 1]), g); });
-    return blockwise<A>(v.points, [x, g](int i) { return stats::guarded_square(A(x[i]), g); });
+        return blockwise<A>(v.points, [x, g](std::ptrdiff_t i) { return stats::guarded_square(A(x[2 * i]), A(x[2 * i + 1]), g); });
+    return blockwise<A>(v.points, [x, g](std::ptrdiff_t i) { return stats::guarded_square(A(x[i]), g); });
 }
 
 // The shift of the one-pass moments: the mean of the middle, first and last
@@ -52,7 +52,7 @@ template <class T> Acc<T> variance(const Vec<T>& v) noexcept {
     const T* x = v.data;
     if (!v.complex) {
         const A k = three_sample_shift(x, n, 1);
-        const auto s = blockwise<Sums<A, 2>>(n, [=](int i) {
+        const auto s = blockwise<Sums<A, 2>>(n, [=](std::ptrdiff_t i) {
             const A d = clamp(A(x[i]) - k, g);
             return Sums<A, 2>{{d, d * d}};
         });
@@ -60,7 +60,7 @@ template <class T> Acc<T> variance(const Vec<T>& v) noexcept {
         return s[1] / n - m1 * m1;
     }
     const A kr = three_sample_shift(x, n, 2), ki = three_sample_shift(x + 1, n, 2);
-    const auto s = blockwise<Sums<A, 4>>(n, [=](int i) {
+    const auto s = blockwise<Sums<A, 4>>(n, [=](std::ptrdiff_t i) {
         const A dr = clamp(A(x[2 * i]) - kr, g), di = clamp(A(x[2 * i + 1]) - ki, g);
         return Sums<A, 4>{{dr, dr * dr, di, di * di}};
     });
@@ -135,7 +135,7 @@ template <class T> int skew(const Vec<T>* in, Vec<T>* out) noexcept {
     const A g = Traits<T>::huge;
     const T* x = in->data;
     const A k = three_sample_shift(x, n, 1);
-    const auto s = blockwise<Sums<A, 3>>(n, [=](int i) {
+    const auto s = blockwise<Sums<A, 3>>(n, [=](std::ptrdiff_t i) {
         const A d = clamp(A(x[i]) - k, g);
         return Sums<A, 3>{{d, d * d, d * d * d}};
     });
@@ -156,8 +156,8 @@ template <class T> int excess(const Vec<T>* in, Vec<T>* out) noexcept {
     if (n <= 0) return put<T>(out, 0, A(-3));
     const A g = Traits<T>::huge;
     const T* x = in->data;
-    const A mu = blockwise<A>(n, [=](int i) { return clamp(A(x[i]), g); }) / n;
-    const auto s = blockwise<Sums<A, 2>>(n, [=](int i) {
+    const A mu = blockwise<A>(n, [=](std::ptrdiff_t i) { return clamp(A(x[i]), g); }) / n;
+    const auto s = blockwise<Sums<A, 2>>(n, [=](std::ptrdiff_t i) {
         const A d = clamp(A(x[i]) - mu, g);
         const A d2 = d * d;
         return Sums<A, 2>{{d2, d2 * d2}};

@@ -102,7 +102,9 @@ template <class T> int build_chirp(int n, int m, int conj) noexcept {
 
 // Turns the state to the other direction without rounding: the chirp is
 // conjugated and the filter spectrum becomes that of the conjugate filter,
-// H'[k] = conj(H[-k]).
+// H'[k] = conj(H[-k]). The forward 1/N is never kept in the state (it goes
+// with the last chirp multiplication), so a change of direction never
+// rescales the spectrum and alternating directions cannot drift.
 template <class T> void flip_chirp() noexcept {
     ChirpState<T>& s = chirp_state<T>;
     T* c = s.chirp.data;

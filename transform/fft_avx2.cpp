@@ -32,6 +32,10 @@ template <> struct Ops<double> {
     // +1 for the first half, -1 for the second
     static R pm() noexcept { return _mm256_setr_pd(1, 1, -1, -1); }
     static R mp() noexcept { return _mm256_setr_pd(-1, -1, 1, 1); }
+    static R set1(double f) noexcept { return _mm256_set1_pd(f); }
+    static R conj(R v) noexcept { return _mm256_xor_pd(v, _mm256_setr_pd(0.0, -0.0, 0.0, -0.0)); }
+    // the complex values in reverse order
+    static R reverse(R v) noexcept { return _mm256_permute2f128_pd(v, v, 0x01); }
 };
 
 template <> struct Ops<float> {
@@ -54,6 +58,11 @@ template <> struct Ops<float> {
     static R pm() noexcept { return _mm256_setr_ps(1, 1, 1, 1, -1, -1, -1, -1); }
     static R mp() noexcept { return _mm256_setr_ps(-1, -1, -1, -1, 1, 1, 1, 1); }
     static R pm1() noexcept { return _mm256_setr_ps(1, 1, -1, -1, 1, 1, -1, -1); }
+    static R set1(float f) noexcept { return _mm256_set1_ps(f); }
+    static R conj(R v) noexcept {
+        return _mm256_xor_ps(v, _mm256_setr_ps(0.0f, -0.0f, 0.0f, -0.0f, 0.0f, -0.0f, 0.0f, -0.0f));
+    }
+    static R reverse(R v) noexcept { return _mm256_castpd_ps(_mm256_permute4x64_pd(_mm256_castps_pd(v), 0x1B)); }
 };
 
 // z rotated by the group (c, pair): t = c (re + im), then t + swap(z) * pair;
@@ -180,7 +189,136 @@ template <class T, bool Inv> void recurse(T* x, std::ptrdiff_t n, const T* lv) n
     recurse<T, Inv>(x + n + n / 2, n / 4, lv);
 }
 
+// Bit reversal of complex data in 4 x 4 tiles: an index is (a, m, b) with a
+// and b of two bits; the tile of middle m (rows a, columns b) goes transposed,
+// rows and columns reversed, to the tile of rev m, and that one back.
+inline std::ptrdiff_t rev2(std::ptrdiff_t i) noexcept { return ((i & 1) << 1) | ((i >> 1) & 1); }
+
+struct TileF {   // float: one row of four complex values is one register
+    __m256d r[4];
+    void load(const float* x, std::ptrdiff_t row, std::ptrdiff_t m) noexcept {
+        for (int a = 0; a < 4; ++a) r[a] = _mm256_loadu_pd(reinterpret_cast<const double*>(x + 2 * (a * row + 4 * m)));
+    }
+    template <bool Scale> void store(float* x, std::ptrdiff_t row, std::ptrdiff_t m, __m256 f) const noexcept {
+        // rows in the order 0, 2, 1, 3 through a 4 x 4 transpose of 64-bit elements
+        const __m256d t0 = _mm256_unpacklo_pd(r[0], r[2]), t1 = _mm256_unpackhi_pd(r[0], r[2]);
+        const __m256d t2 = _mm256_unpacklo_pd(r[1], r[3]), t3 = _mm256_unpackhi_pd(r[1], r[3]);
+        __m256d col[4];
+        col[0] = _mm256_permute2f128_pd(t0, t2, 0x20);
+        col[1] = _mm256_permute2f128_pd(t1, t3, 0x20);
+        col[2] = _mm256_permute2f128_pd(t0, t2, 0x31);
+        col[3] = _mm256_permute2f128_pd(t1, t3, 0x31);
+        for (int a = 0; a < 4; ++a) {
+            __m256 v = _mm256_castpd_ps(col[rev2(a)]);
+            if (Scale) v = _mm256_mul_ps(v, f);
+            _mm256_storeu_ps(x + 2 * (a * row + 4 * m), v);
+        }
+    }
+};
+
+struct TileD {   // double: a row is two registers of two complex values
+    __m256d lo[4], hi[4];
+    void load(const double* x, std::ptrdiff_t row, std::ptrdiff_t m) noexcept {
+        for (int a = 0; a < 4; ++a) {
+            const double* p = x + 2 * (a * row + 4 * m);
+            lo[a] = _mm256_loadu_pd(p);
+            hi[a] = _mm256_loadu_pd(p + 4);
+        }
+    }
+    template <bool Scale> void store(double* x, std::ptrdiff_t row, std::ptrdiff_t m, __m256d f) const noexcept {
+        // output row A holds element rev2(A) of the rows 0, 2, 1, 3
+        __m256d out[8];
+        out[0] = _mm256_permute2f128_pd(lo[0], lo[2], 0x20);
+        out[1] = _mm256_permute2f128_pd(lo[1], lo[3], 0x20);
+        out[2] = _mm256_permute2f128_pd(hi[0], hi[2], 0x20);
+        out[3] = _mm256_permute2f128_pd(hi[1], hi[3], 0x20);
+        out[4] = _mm256_permute2f128_pd(lo[0], lo[2], 0x31);
+        out[5] = _mm256_permute2f128_pd(lo[1], lo[3], 0x31);
+        out[6] = _mm256_permute2f128_pd(hi[0], hi[2], 0x31);
+        out[7] = _mm256_permute2f128_pd(hi[1], hi[3], 0x31);
+        for (int a = 0; a < 4; ++a) {
+            double* p = x + 2 * (a * row + 4 * m);
+            __m256d u = out[2 * a], v = out[2 * a + 1];
+            if (Scale) { u = _mm256_mul_pd(u, f); v = _mm256_mul_pd(v, f); }
+            _mm256_storeu_pd(p, u);
+            _mm256_storeu_pd(p + 4, v);
+        }
+    }
+};
+
+template <class Tile, bool Scale, class T, class R>
+void reverse_tiles(T* x, int bits, R f) noexcept {
+    const int mb = bits - 4;
+    const std::ptrdiff_t row = std::ptrdiff_t(1) << (bits - 2), count = std::ptrdiff_t(1) << mb;
+    std::ptrdiff_t mr = 0;
+    for (std::ptrdiff_t m = 0; m < count; ++m) {
+        if (mr >= m) {
+            Tile a, b;
+            a.load(x, row, m);
+            if (mr != m) {
+                b.load(x, row, mr);
+                b.template store<Scale>(x, row, m, f);
+            }
+            a.template store<Scale>(x, row, mr, f);
+        }
+        // mr <- reversal of m + 1: a reversed increment
+        std::ptrdiff_t bit = count >> 1;
+        while (bit && (mr & bit)) { mr ^= bit; bit >>= 1; }
+        mr |= bit;
+    }
+}
+
+// The passes between a complex transform of h = n/2 points and the real
+// transform of n points, for the groups of bins k < n/4 against h - k; lane
+// k = 0 meets the Nyquist slot and bin n/4 has no partner, so both are fixed
+// up by the caller. lv is the level table of block size n.
+template <class T> void split_groups(T* x, std::ptrdiff_t n, const T* lv) noexcept {
+    using O = Ops<T>;
+    constexpr int W = O::W;
+    const std::ptrdiff_t h = n / 2;
+    const auto half = O::set1(T(0.5));
+    for (std::ptrdiff_t k = 0; k < h / 2; k += W, lv += 8 * W) {
+        T* pa = x + 2 * k;
+        T* pb = x + 2 * (h - k - W + 1);
+        const auto a = O::load(pa), b = O::conj(O::reverse(O::load(pb)));
+        const auto e = O::mul(half, O::add(a, b));
+        const auto o = O::mul(half, O::conj(O::swap(O::sub(a, b))));   // -j (a - conj b) / 2
+        const auto r = rotate<T, false>(o, O::load(lv), O::load(lv + 2 * W));
+        O::store(pa, O::add(e, r));
+        O::store(pb, O::reverse(O::conj(O::sub(e, r))));
+    }
+}
+
+template <class T> void join_groups(T* x, std::ptrdiff_t n, const T* lv) noexcept {
+    using O = Ops<T>;
+    constexpr int W = O::W;
+    const std::ptrdiff_t h = n / 2;
+    for (std::ptrdiff_t k = 0; k < h / 2; k += W, lv += 8 * W) {
+        T* pa = x + 2 * k;
+        T* pb = x + 2 * (h - k - W + 1);
+        const auto a = O::load(pa), b = O::conj(O::reverse(O::load(pb)));
+        const auto e = O::add(a, b);
+        const auto jo = O::mul_j(rotate<T, true>(O::sub(a, b), O::load(lv), O::load(lv + 2 * W)));
+        O::store(pa, O::add(e, jo));
+        O::store(pb, O::reverse(O::conj(O::sub(e, jo))));
+    }
+}
+
 }  // namespace
+
+void split_avx2(double* x, std::ptrdiff_t n, const double* lv) noexcept { split_groups<double>(x, n, lv); }
+void split_avx2(float* x, std::ptrdiff_t n, const float* lv) noexcept { split_groups<float>(x, n, lv); }
+void join_avx2(double* x, std::ptrdiff_t n, const double* lv) noexcept { join_groups<double>(x, n, lv); }
+void join_avx2(float* x, std::ptrdiff_t n, const float* lv) noexcept { join_groups<float>(x, n, lv); }
+
+void reverse_avx2(double* x, int bits, bool scale, double f) noexcept {
+    if (scale) reverse_tiles<TileD, true>(x, bits, _mm256_set1_pd(f));
+    else reverse_tiles<TileD, false>(x, bits, _mm256_set1_pd(f));
+}
+void reverse_avx2(float* x, int bits, bool scale, float f) noexcept {
+    if (scale) reverse_tiles<TileF, true>(x, bits, _mm256_set1_ps(f));
+    else reverse_tiles<TileF, false>(x, bits, _mm256_set1_ps(f));
+}
 
 void dif_avx2(double* x, std::ptrdiff_t n, const double* lv, bool inverse) noexcept {
     if (inverse) recurse<double, true>(x, n, lv);

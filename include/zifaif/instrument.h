@@ -155,8 +155,8 @@ ZF_API int ZF_CDECL Correct1Port(const double *directivity, const double *source
                                  const double *reflectionTracking, const double *measured,
                                  double *corrected, int start, int stop);
 /* Enhanced-response correction of S11 and S21; either output may be null.
- * loadMatch is read (and must be non-null) only when the low byte of
- * useLoadMatch is nonzero: S11 then loses loadMatch * S21^2. */
+ * loadMatch is read (and required) only when the low byte of useLoadMatch is
+ * nonzero: S11 then loses loadMatch * S21^2. */
 ZF_API int ZF_CDECL ApplyEnhancedResponse(const double *directivity, const double *sourceMatch,
                                           const double *reflectionTracking, const double *loadMatch,
                                           const double *transmissionTracking, const double *measuredS11,

@@ -1,5 +1,6 @@
-// The vector two-port kernel against the portable one, lane by lane, on data
-// that mixes ordinary points with every special case the kernel selects on.
+// The vector two-port kernels (AVX2 and AVX-512) against the portable one,
+// lane by lane, on data that mixes ordinary points with every special case
+// the kernels select on.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -75,14 +76,22 @@ Arrays special_data(int n, unsigned seed) {
 
 }  // namespace
 
-TEST(Correct2PortKernelTest, VectorKernelMatchesPortableKernelLaneByLane) {
-    if (!zf::have_avx2()) GTEST_SKIP() << "no AVX2 on this processor";
+struct Kernel {
+    const char* name;
+    bool (*available)() noexcept;
+    void (*run)(const zf::TwoPortArrays&, int) noexcept;
+};
+void PrintTo(const Kernel& k, std::ostream* os) { *os << k.name; }
+class Correct2PortKernelTest : public ::testing::TestWithParam<Kernel> {};
+
+TEST_P(Correct2PortKernelTest, MatchesPortableKernelLaneByLane) {
+    if (!GetParam().available()) GTEST_SKIP() << GetParam().name << " not on this processor";
     const int n = 800;
     for (const unsigned null_mask : {0u, (1u << 9) | (1u << 10), (1u << 16) | (1u << 19)}) {
         Arrays ref = special_data(n, 17), vec = special_data(n, 17);
         zf::correct_2port_portable(ref.view(null_mask), 0, n);
         const zf::TwoPortArrays t = vec.view(null_mask);
-        for (int j = 0; j < n; j += 8) zf::correct_2port_x8_avx2(t, j);
+        for (int j = 0; j < n; j += 8) GetParam().run(t, j);
         for (int p = 16; p < 20; ++p)
             for (int j = 0; j < n; ++j) {
                 ASSERT_TRUE(same(ref.v[p][j].re, vec.v[p][j].re)) << "S" << p - 16 << " point " << j;
@@ -90,3 +99,7 @@ TEST(Correct2PortKernelTest, VectorKernelMatchesPortableKernelLaneByLane) {
             }
     }
 }
+INSTANTIATE_TEST_SUITE_P(Vector, Correct2PortKernelTest,
+                         ::testing::Values(Kernel{"AVX2", zf::have_avx2, zf::correct_2port_x8_avx2},
+                                           Kernel{"AVX-512", zf::have_avx512, zf::correct_2port_x8_avx512}),
+                         [](const ::testing::TestParamInfo<Kernel>& i) { return i.index == 0 ? "Avx2" : "Avx512"; });

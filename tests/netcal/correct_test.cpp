@@ -169,6 +169,8 @@ TEST(ApplyEnhancedResponseTest, OutputsAreOptionalAndRequiredInputsChecked) {
         EXPECT_TRUE(untouched_outside(o11, 0, 0));
         EXPECT_TRUE(untouched_outside(o21, 0, 0));
     }
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, c11.data(), c21.data(), 0, n, 0x101), 0);
+    EXPECT_TRUE(untouched_outside(c11, 0, 0));
     EXPECT_EQ(ApplyEnhancedResponse(x, x, x, x, x, x, x, c11.data(), c21.data(), 4, 2, 1), -2);
 }
 
@@ -217,6 +219,12 @@ TEST(Correct2PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
         for (int p = 0; p < 4; ++p) EXPECT_TRUE(close(lc(t.a[16 + p], j), s[p], 1e-13L, j)) << "S" << p;
     }
     for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], start, stop));
+    // In place: each corrected S-parameter overwrites its measurement.
+    double* p[20];
+    for (int i = 0; i < 20; ++i) p[i] = t.a[i < 16 ? i : i - 4].data();
+    ASSERT_EQ(api::correct_2port(p, start, stop), stop - start);
+    for (int q = 0; q < 4; ++q)
+        for (int j = start; j < stop; ++j) EXPECT_EQ(lc(t.a[12 + q], j), lc(t.a[16 + q], j)) << "S" << q;
 }
 
 // A device measured through the forward twelve-term model comes back.

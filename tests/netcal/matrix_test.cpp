@@ -44,24 +44,21 @@ template <class K> class MatrixKernelTest : public ::testing::Test {};
 using Flavours = ::testing::Types<api::ComplexMatrix, api::RealMatrix>;
 TYPED_TEST_SUITE(MatrixKernelTest, Flavours);
 
-TYPED_TEST(MatrixKernelTest, RandomInverseAgreesWithEliminationAndIsAnInverse) {
+// A X = I to rounding, measured against |A| |X|, which bounds what a stable
+// inversion can promise for any conditioning.
+TYPED_TEST(MatrixKernelTest, RandomInverseTimesMatrixIsIdentity) {
     using K = TypeParam;
     for (int n = 1; n <= 6; ++n) {
         for (unsigned seed = 0; seed < 12; ++seed) {
             const std::vector<double> a = random_matrix<K>(n, n, 100 * n + seed);
             std::vector<double> x = a;
             ASSERT_EQ(K::invert(x.data(), n), 1) << "n=" << n << " seed=" << seed;
-            const LMat la = to_lmat(a, K::width), lx = to_lmat(x, K::width), ref = inverse(la, n);
-            ASSERT_FALSE(ref.empty());
-            // Forward error grows with the condition number |A| |A^-1|.
-            const long double scale = max_abs(la) * max_abs(ref);
-            const long double tol = 64 * n * DBL_EPSILON * scale * max_abs(ref);
-            for (std::size_t i = 0; i < ref.size(); ++i)
-                ASSERT_LE(std::abs(lx[i] - ref[i]), tol) << "n=" << n << " seed=" << seed << " at " << i;
-            const LMat id = product(la, lx, n, n, n);
-            for (int r = 0; r < n; ++r)
-                for (int c = 0; c < n; ++c)
-                    ASSERT_LE(std::abs(id[r * n + c] - LC(r == c ? 1 : 0)), 64 * n * DBL_EPSILON * scale);
+            const LMat la = to_lmat(a, K::width), lx = to_lmat(x, K::width);
+            const long double tol = 64 * n * DBL_EPSILON * max_abs(la) * max_abs(lx);
+            for (const LMat& id : {product(la, lx, n, n, n), product(lx, la, n, n, n)})
+                for (int r = 0; r < n; ++r)
+                    for (int c = 0; c < n; ++c)
+                        ASSERT_LE(std::abs(id[r * n + c] - LC(r == c ? 1 : 0)), tol) << "n=" << n << " seed=" << seed;
         }
     }
 }

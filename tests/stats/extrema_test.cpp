@@ -2,22 +2,11 @@
 // its guard, the differing start results of complex min and max, and ties.
 #include <limits>
 
-#include "support/api_stats.hpp"
-#include "support/vectors.hpp"
+#include "support/stats_fixture.hpp"
 
 using namespace zt;
 
-template <class T> class StatsExtrema : public ::testing::Test {
-protected:
-    using Fn = int (*)(const Vec<T>*, Vec<T>*);
-    std::vector<T> run(Fn fn, const std::vector<T>& s, bool complex = false) {
-        Owned<T> in(s, complex), out;
-        EXPECT_EQ(fn(in.get(), out.get()), 0);
-        EXPECT_EQ(out->complex, complex ? 1 : 0);
-        return out.scalars();
-    }
-    static constexpr T G = Traits<T>::huge;
-};
+template <class T> class StatsExtrema : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsExtrema, Precisions);
 
 TYPED_TEST(StatsExtrema, RealExtremaAreBoundedByTheGuard) {

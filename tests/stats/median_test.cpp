@@ -3,33 +3,23 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "support/api_stats.hpp"
-#include "support/vectors.hpp"
+#include "support/stats_fixture.hpp"
 
 using namespace zt;
 
-template <class T> class StatsMedian : public ::testing::Test {
-protected:
-    std::vector<T> run(const std::vector<T>& s, bool complex = false) {
-        Owned<T> in(s, complex), out;
-        EXPECT_EQ(api::median(in.get(), out.get()), 0);
-        EXPECT_EQ(in.scalars(), s);   // the input is never reordered
-        return out.scalars();
-    }
-};
+template <class T> class StatsMedian : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsMedian, Precisions);
 
 TYPED_TEST(StatsMedian, MiddleSampleOrMeanOfTheTwoMiddleOnes) {
     using T = TypeParam;
-    EXPECT_EQ(this->run({T(5), T(1), T(3), T(2)}), std::vector<T>({T(2.5)}));
-    EXPECT_EQ(this->run({T(5), T(1), T(3)}), std::vector<T>({T(3)}));
-    EXPECT_EQ(this->run({T(-7)}), std::vector<T>({T(-7)}));
+    EXPECT_EQ(this->run(api::median, {T(5), T(1), T(3), T(2)}), std::vector<T>({T(2.5)}));
+    EXPECT_EQ(this->run(api::median, {T(5), T(1), T(3)}), std::vector<T>({T(3)}));
     // Complex: by squared magnitude, then real part, then imaginary part.
-    EXPECT_EQ(this->run({T(1), T(0), T(9), T(9), T(0), T(-2)}, true), std::vector<T>({T(0), T(-2)}));
+    EXPECT_EQ(this->run(api::median, {T(1), T(0), T(9), T(9), T(0), T(-2)}, true), std::vector<T>({T(0), T(-2)}));
     // Four samples of |z|² 25 ordered by real part: (-5,0) (0,5) (3,4) (4,3).
-    EXPECT_EQ(this->run({T(3), T(4), T(-5), T(0), T(0), T(5), T(4), T(3)}, true), std::vector<T>({T(1.5), T(4.5)}));
+    EXPECT_EQ(this->run(api::median, {T(3), T(4), T(-5), T(0), T(0), T(5), T(4), T(3)}, true), std::vector<T>({T(1.5), T(4.5)}));
     // Equal magnitude and real part: by imaginary part, (2,-1) before (2,1).
-    EXPECT_EQ(this->run({T(2), T(1), T(2), T(-1), T(0), T(0)}, true), std::vector<T>({T(2), T(-1)}));
+    EXPECT_EQ(this->run(api::median, {T(2), T(1), T(2), T(-1), T(0), T(0)}, true), std::vector<T>({T(2), T(-1)}));
 }
 
 // Hooks that allocate with malloc, count blocks and can refuse the first allocation.

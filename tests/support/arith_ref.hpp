@@ -99,7 +99,9 @@ template <class T>
         if (z_complex) { want.push_back(z.real()); want.push_back(z.imag()); }
         want_complex = z_complex;
     }
-    if (n == 0) want_complex = complex ? static_cast<bool>(c.cplx) : !c.real;
+    // No points: a real vector still becomes complex when the result is
+    // complex by nature, but a complex one is left as it is.
+    if (n == 0) want_complex = complex || !c.real;
     if ((o.v.complex != 0) != want_complex) return fail() << "complex flag " << o.v.complex;
     if (o.v.points != n || o.v.delta != T(0.25) || o.v.type != 42) return fail() << "shape or tags changed";
     if (o.v.alloc < capacity) return fail() << "capacity shrank";

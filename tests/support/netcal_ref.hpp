@@ -46,37 +46,6 @@ inline LMat product(const LMat& a, const LMat& b, int m, int n, int p) {
     return c;
 }
 
-// The inverse by Gaussian elimination of [A | I] with partial pivoting and back
-// substitution; empty when a pivot is exactly zero.
-inline LMat inverse(LMat a, int n) {
-    LMat x(static_cast<std::size_t>(n) * n, 0);
-    for (int i = 0; i < n; ++i) x[i * n + i] = 1;
-    for (int k = 0; k < n; ++k) {
-        int r = k;
-        for (int i = k + 1; i < n; ++i)
-            if (std::abs(a[i * n + k]) > std::abs(a[r * n + k])) r = i;
-        if (a[r * n + k] == LC(0)) return {};
-        for (int c = 0; c < n; ++c) {
-            std::swap(a[k * n + c], a[r * n + c]);
-            std::swap(x[k * n + c], x[r * n + c]);
-        }
-        for (int i = k + 1; i < n; ++i) {
-            const LC f = a[i * n + k] / a[k * n + k];
-            for (int c = 0; c < n; ++c) {
-                a[i * n + c] -= f * a[k * n + c];
-                x[i * n + c] -= f * x[k * n + c];
-            }
-        }
-    }
-    for (int k = n - 1; k >= 0; --k)
-        for (int c = 0; c < n; ++c) {
-            LC s = x[k * n + c];
-            for (int j = k + 1; j < n; ++j) s -= a[k * n + j] * x[j * n + c];
-            x[k * n + c] = s / a[k * n + k];
-        }
-    return x;
-}
-
 // Largest element magnitude.
 inline long double max_abs(const LMat& a) {
     long double m = 0;

@@ -35,3 +35,62 @@ TYPED_TEST(FftKernelTest, DispatchedKernelMatchesPortable) {
         }
     }
 }
+
+// The blocked walk of long data against the swap lists, exactly.
+TYPED_TEST(FftKernelTest, BlockedReversalMatchesSwapLists) {
+    using T = TypeParam;
+    for (int bits = 8; bits <= 14; ++bits) {
+        for (int width = 1; width <= 2; ++width) {
+            for (int scale = 0; scale < 2; ++scale) {
+                const auto in = random_scalars<T>(static_cast<std::size_t>(width) << bits, bits);
+                auto a = in, b = in;
+                const T f = T(1) / static_cast<T>(1 << bits);
+                if (scale) zf::swap_pairs_scale<T>(a.data(), zf::swap_list<T>(bits), zf::fixed_list<T>(bits), width, f);
+                else zf::swap_pairs<T>(a.data(), zf::swap_list<T>(bits), width);
+                zf::reverse_blocked<T>(b.data(), bits, width, scale != 0, f);
+                EXPECT_EQ(a, b) << "bits " << bits << " width " << width << " scale " << scale;
+            }
+        }
+    }
+}
+
+// The vectorised reversal of complex data against the swap lists, exactly.
+TYPED_TEST(FftKernelTest, VectorReversalMatchesSwapLists) {
+    using T = TypeParam;
+    const auto rev = zf::vector_reverse<T>();
+    if (!rev) GTEST_SKIP() << "no vector kernel on this processor";
+    for (int bits = 4; bits <= 14; ++bits) {
+        for (int scale = 0; scale < 2; ++scale) {
+            const auto in = random_scalars<T>(std::size_t(2) << bits, bits + 50);
+            auto a = in, b = in;
+            const T f = T(1) / static_cast<T>(1 << bits);
+            if (scale) zf::swap_pairs_scale<T>(a.data(), zf::swap_list<T>(bits), zf::fixed_list<T>(bits), 2, f);
+            else zf::swap_pairs<T>(a.data(), zf::swap_list<T>(bits), 2);
+            rev(b.data(), bits, scale != 0, f);
+            EXPECT_EQ(a, b) << "bits " << bits << " scale " << scale;
+        }
+    }
+}
+
+// The vectorised passes of the real transforms against the portable ones.
+TYPED_TEST(FftKernelTest, VectorRealPassesMatchPortable) {
+    using T = TypeParam;
+    if (!zf::vector_split<T>() || !zf::vector_join<T>()) GTEST_SKIP() << "no vector kernel on this processor";
+    const int w = zf::vector_width<T>();
+    for (int n = 4 * w; n <= (1 << 13); n *= 2) {
+        const T* tw = zf::twiddles<T>(n);
+        const T* levels = zf::level_twiddles<T>(n, tw, n, w);
+        ASSERT_TRUE(tw && levels);
+        const T* lv = levels + 2 * (n - 4 * w);
+        for (int join = 0; join < 2; ++join) {
+            const auto in = random_scalars<T>(n + 2, n + join);
+            auto a = in, b = in;
+            if (join) { zf::join_real<T>(a.data(), n, tw, nullptr); zf::join_real<T>(b.data(), n, tw, lv); }
+            else { zf::split_real<T>(a.data(), n, tw, nullptr); zf::split_real<T>(b.data(), n, tw, lv); }
+            const std::size_t used = join ? n : n + 2;
+            a.resize(used);
+            b.resize(used);
+            EXPECT_TRUE(near_all(b, a, tol<T>(8))) << "n = " << n << (join ? " join" : " split");
+        }
+    }
+}
