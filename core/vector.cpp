@@ -64,6 +64,7 @@ template <class T> int realloc(Vec<T>* v, int old_points, int old_complex) noexc
         v->data = nullptr;
     }
     if (n > INT32_MAX) {
+        v->data = nullptr;
         v->alloc = 0;
         return -1;  // like a failed realloc: an owned block is left to its fate
     }

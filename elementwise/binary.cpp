@@ -3,23 +3,11 @@
 #include <cstddef>
 
 #include "elementwise/rearrange.hpp"
+#include "elementwise/unary.hpp"
 
 namespace zf {
 
 namespace {
-
-// Squared magnitude from parts clamped to the saturation value: a part beyond
-// +-huge makes the magnitude huge.
-template <class T> inline T clamped_magsq(T re, T im) noexcept {
-    const T huge = Traits<T>::huge;
-    const bool outside = (re > huge) | (re < -huge) | (im > huge) | (im < -huge);
-    return outside ? huge : re * re + im * im;
-}
-
-template <class T> inline T clamp_huge(T x) noexcept {
-    const T huge = Traits<T>::huge;
-    return x > huge ? huge : (x < -huge ? -huge : x);
-}
 
 // Quotient part for a zero divisor: huge without sign where the dividend is
 // nonzero, 0 where it is zero.
@@ -67,8 +55,9 @@ template <class T> struct ConjMulOp {
     void rc(T a, T br, T bi, T& re, T& im) const noexcept { re = a * br; im = -(a * bi); }
 };
 
-// a / b; a zero divisor gives huge (no sign) or 0, part by part. The complex
-// quotient is a * conj(b) / |b|^2 with |b|^2 from parts clamped to +-huge.
+// a / b; a zero divisor gives huge (no sign) or 0, part by part. With a
+// complex operand the quotient is a * conj(b) / |b|^2 (a real b has imaginary
+// part 0); only |b|^2 is formed from parts clamped to +-huge.
 template <class T> struct DivOp {
     static constexpr bool scalarwise = false;
     T rr(T a, T b) const noexcept {
@@ -77,19 +66,15 @@ template <class T> struct DivOp {
         return b == T(0) ? zero_divisor(a) : q;
     }
     void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept {
-        br = clamp_huge(br);
-        bi = clamp_huge(bi);
-        const T d = br * br + bi * bi;
+        const T cr = clamp_huge(br), ci = clamp_huge(bi);
+        const T d = cr * cr + ci * ci;
         const bool zero = d == T(0);
         const T s = zero ? T(1) : d;  // keeps the loop free of conditional traps
         const T qr = (ar * br + ai * bi) / s, qi = (ai * br - ar * bi) / s;
         re = zero ? zero_divisor(ar) : qr;
         im = zero ? zero_divisor(ai) : qi;
     }
-    void cr(T ar, T ai, T b, T& re, T& im) const noexcept {
-        re = rr(ar, b);
-        im = rr(ai, b);
-    }
+    void cr(T ar, T ai, T b, T& re, T& im) const noexcept { cc(ar, ai, b, T(0), re, im); }
     void rc(T a, T br, T bi, T& re, T& im) const noexcept { cc(a, T(0), br, bi, re, im); }
 };
 
@@ -98,7 +83,7 @@ template <class T> struct MinOp {
     static constexpr bool scalarwise = false;
     T rr(T a, T b) const noexcept { return b <= a ? b : a; }
     void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept {
-        const bool take_b = clamped_magsq(br, bi) <= clamped_magsq(ar, ai);
+        const bool take_b = saturated_norm(br, bi) <= saturated_norm(ar, ai);
         re = take_b ? br : ar;
         im = take_b ? bi : ai;
     }
@@ -111,7 +96,7 @@ template <class T> struct MaxOp {
     static constexpr bool scalarwise = false;
     T rr(T a, T b) const noexcept { return b >= a ? b : a; }
     void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept {
-        const bool take_b = clamped_magsq(br, bi) >= clamped_magsq(ar, ai);
+        const bool take_b = saturated_norm(br, bi) >= saturated_norm(ar, ai);
         re = take_b ? br : ar;
         im = take_b ? bi : ai;
     }

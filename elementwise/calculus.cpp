@@ -114,7 +114,7 @@ template <class T> int unwrap_wnd(Vec<T>* v, int w) noexcept {
     const T inv = w == 0 ? T(0) : T(1) / static_cast<T>(w);
     for (int k = first; k < n; ++k) {
         d[k] = wrap(d[k], sum * inv);
-        sum += d[k] - d[k - w];
+        sum = sum + d[k] - d[k - w];  // the new output added, then the oldest taken away
     }
     return 0;
 }

@@ -3,16 +3,19 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
+#include <cstring>
 
 #include "core/random.hpp"
+#include "elementwise/unary.hpp"
 
 namespace zf {
 
 namespace {
 
-// One complex sample as the sort sees it. The record's scalars are viewed as
-// an array of these (same size, same alignment, no padding), so that the
-// standard sort moves whole pairs.
+// One complex sample as the sort sees it. The record's scalars are copied
+// into an array of these (same size, no padding) and back, so that the
+// standard sort moves whole pairs without viewing the scalars as another type.
 template <class T> struct Pair {
     T re, im;
 };
@@ -29,16 +32,8 @@ template <class T> inline int order(T a, T b) noexcept {
     return 0;
 }
 
-// Squared magnitude with each part clamped to the saturation value: a part
-// outside +-huge makes the magnitude huge.
-template <class T> inline T clamped_magsq(const Pair<T>& z) noexcept {
-    const T huge = Traits<T>::huge;
-    if (z.re > huge || z.re < -huge || z.im > huge || z.im < -huge) return huge;
-    return z.re * z.re + z.im * z.im;
-}
-
 template <class T> inline bool pair_less(const Pair<T>& a, const Pair<T>& b) noexcept {
-    int r = order(clamped_magsq(a), clamped_magsq(b));
+    int r = order(saturated_norm(a.re, a.im), saturated_norm(b.re, b.im));
     if (r == 0) r = order(a.re, b.re);
     if (r == 0) r = order(a.im, b.im);
     return r < 0;
@@ -96,8 +91,13 @@ template <class T> int sort(Vec<T>* v) noexcept {
         std::sort(d, nans);
         return 0;
     }
-    Pair<T>* p = reinterpret_cast<Pair<T>*>(v->data);
+    const std::size_t bytes = static_cast<std::size_t>(n) * sizeof(Pair<T>);
+    Pair<T>* p = static_cast<Pair<T>*>(std::malloc(bytes));
+    if (!p) return -1;
+    std::memcpy(p, v->data, bytes);
     std::sort(p, p + n, pair_less<T>);
+    std::memcpy(v->data, p, bytes);
+    std::free(p);
     return 0;
 }
 

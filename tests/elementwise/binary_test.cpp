@@ -194,6 +194,28 @@ TYPED_TEST(BinaryTest, DivisionByZeroGivesUnsignedGuard) {
     EXPECT_EQ(out.scalars(), (std::vector<T>{0, 0, 0, 0, 0, 0}));
 }
 
+// Only |b|^2 is formed from parts clamped to +-huge; the product a * conj(b)
+// takes b as it is, and a real b counts as (b, 0). With b = 2 huge the
+// quotient of (1, 1) is therefore (2 huge, 2 huge) / huge^2 = (2, 2) / huge.
+TYPED_TEST(BinaryTest, DivisionClampsOnlyTheDivisorMagnitude) {
+    using T = TypeParam;
+    const T huge = Traits<T>::huge;
+    const auto scaled = [&](const Owned<T>& o) {
+        std::vector<long double> s;
+        for (T x : o.scalars()) s.push_back(static_cast<long double>(x) * huge);
+        return s;
+    };
+    Owned<T> a({1, 1}, true), cb({2 * huge, 0}, true), rb({2 * huge}), out;
+    ASSERT_EQ(api::div(a.get(), cb.get(), out.get()), 0);
+    EXPECT_TRUE(near_all(scaled(out), std::vector<long double>{2, 2}, tol<T>(8)));
+    ASSERT_EQ(api::div(a.get(), rb.get(), out.get()), 0);
+    EXPECT_TRUE(near_all(scaled(out), std::vector<long double>{2, 2}, tol<T>(8)));
+    // Real a over (0, 2 huge): (0, -2 huge) / huge^2.
+    Owned<T> ra({1}), ib({0, 2 * huge}, true);
+    ASSERT_EQ(api::div(ra.get(), ib.get(), out.get()), 0);
+    EXPECT_TRUE(near_all(scaled(out), std::vector<long double>{0, -2}, tol<T>(8)));
+}
+
 TYPED_TEST(BinaryTest, AvgAddWeightsOneAndZeroGiveTheOperands) {
     using T = TypeParam;
     for (int forms = 0; forms < 4; ++forms) {

@@ -1,3 +1,6 @@
+#include <climits>
+#include <cstdlib>
+
 #include "support/api_binary.hpp"
 #include "support/binary_ref.hpp"
 #include "support/vectors.hpp"
@@ -110,6 +113,25 @@ TYPED_TEST(PadTest, BadFlags) {
     Owned<T> v({1, 2, 3});
     EXPECT_EQ(api::unzpad(v.get(), -1, 0), -1);
     EXPECT_EQ(v->points, 3);
+}
+
+// A length whose scalars cannot be counted in 32 bits fails like a failed
+// allocation: no storage is left in the record (the old block is dropped, not
+// freed), so later calls refuse the record instead of reading past its block.
+TYPED_TEST(PadTest, GrowthBeyondCountableStorageFailsWithoutStorage) {
+    using T = TypeParam;
+    for (int flags : {-1, 0x000, 0x300}) {
+        Owned<T> v({1, 2, 3, 4}, true);
+        T* block = v->data;
+        const int n = INT_MAX / 2 + 1;  // 2n scalars overflow the 32-bit capacity
+        EXPECT_EQ(flags < 0 ? api::zpad(v.get(), n) : api::zpad2(v.get(), n, flags), -1);
+        EXPECT_EQ(v->points, n);
+        EXPECT_EQ(v->data, nullptr);
+        EXPECT_EQ(v->alloc, 0);
+        EXPECT_EQ(api::rev(v.get()), -1);
+        EXPECT_EQ(api::zero(v.get()), -1);
+        std::free(block);
+    }
 }
 
 }  // namespace

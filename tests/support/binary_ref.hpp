@@ -114,4 +114,30 @@ inline std::vector<Cx> padded(const std::vector<Cx>& x, std::size_t n, int place
     return out;
 }
 
+// Phase unwrapping against the mean of the last w outputs, in the record's
+// precision and in the documented order of operations (w != 1): the reference
+// is S / k while the window fills, then S * (1 / w); S gains each output and,
+// once the window is full, then loses the output w places earlier. A sample
+// within pi of its reference is kept as it is; otherwise it becomes the
+// reference plus the difference reduced by fmod into [-pi, pi].
+template <class T> std::vector<T> unwrapped_window(std::vector<T> x, int w) {
+    const T pi = static_cast<T>(3.141592653589793), two_pi = static_cast<T>(6.283185307179586);
+    const T inv = w == 0 ? T(0) : T(1) / static_cast<T>(w);
+    T s = 0;
+    for (std::size_t k = 0; k < x.size(); ++k) {
+        const bool filling = k < static_cast<std::size_t>(w);
+        const T ref = filling ? (k == 0 ? T(0) : s / static_cast<T>(k)) : s * inv;
+        const T d = x[k] - ref;
+        if (d < -pi || d > pi) {
+            T r = std::fmod(d, two_pi);
+            if (r > pi) r -= two_pi;
+            else if (r < -pi) r += two_pi;
+            x[k] = ref + r;
+        }
+        s += x[k];
+        if (!filling) s -= x[k - w];
+    }
+    return x;
+}
+
 }  // namespace zt
