@@ -40,7 +40,7 @@ template <class T> struct Plan {
     // The butterflies of n points (natural order in, bit-reversed out).
     void run(T* x, int n, int tn, bool inverse) const noexcept {
         if (vec) vec(x, n, levels, inverse);
-        else dif<T>(x, n, tw, tn / n, inverse);
+        else dif_portable<T>(x, n, tw, tn / n, inverse);
     }
     // The level table of block size m (valid when levels reach m).
     const T* level(int m) const noexcept {

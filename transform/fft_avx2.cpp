@@ -2,7 +2,7 @@
 // (2 doubles' pairs or 4 floats' pairs), interleaved as they lie in memory.
 // Blocks of up to kLeaf points are unrolled at compile time; larger blocks run
 // one vectorised L-shaped pass and recurse depth first. Same butterflies and
-// the same three-multiplication rotations as the portable kernel.
+// rotations by the same table values (cosine and sine taken apart).
 #include <immintrin.h>
 
 #include "transform/fft_kernel.hpp"
@@ -21,6 +21,8 @@ template <> struct Ops<double> {
     static R sub(R a, R b) noexcept { return _mm256_sub_pd(a, b); }
     static R mul(R a, R b) noexcept { return _mm256_mul_pd(a, b); }
     static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_pd(a, b, c); }
+    static R fmaddsub(R a, R b, R c) noexcept { return _mm256_fmaddsub_pd(a, b, c); }
+    static R fmsubadd(R a, R b, R c) noexcept { return _mm256_fmsubadd_pd(a, b, c); }
     static R zero() noexcept { return _mm256_setzero_pd(); }
     // (re, im) -> (im, re) in every pair
     static R swap(R v) noexcept { return _mm256_permute_pd(v, 0x5); }
@@ -47,6 +49,8 @@ template <> struct Ops<float> {
     static R sub(R a, R b) noexcept { return _mm256_sub_ps(a, b); }
     static R mul(R a, R b) noexcept { return _mm256_mul_ps(a, b); }
     static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_ps(a, b, c); }
+    static R fmaddsub(R a, R b, R c) noexcept { return _mm256_fmaddsub_ps(a, b, c); }
+    static R fmsubadd(R a, R b, R c) noexcept { return _mm256_fmsubadd_ps(a, b, c); }
     static R zero() noexcept { return _mm256_setzero_ps(); }
     static R swap(R v) noexcept { return _mm256_permute_ps(v, 0xB1); }
     static R mul_j(R v) noexcept { return _mm256_addsub_ps(_mm256_setzero_ps(), swap(v)); }
@@ -65,14 +69,13 @@ template <> struct Ops<float> {
     static R reverse(R v) noexcept { return _mm256_castpd_ps(_mm256_permute4x64_pd(_mm256_castps_pd(v), 0x1B)); }
 };
 
-// z rotated by the group (c, pair): t = c (re + im), then t + swap(z) * pair;
-// the inverse exchanges the two scalars of the pair.
+// z times (c -+ j s), c and s each doubled across the real and imaginary lane:
+// (re c + im s, im c - re s) forward, the conjugate rotation inverse.
 template <class T, bool Inv>
-inline typename Ops<T>::R rotate(typename Ops<T>::R z, typename Ops<T>::R c, typename Ops<T>::R pair) noexcept {
+inline typename Ops<T>::R rotate(typename Ops<T>::R z, typename Ops<T>::R c, typename Ops<T>::R s) noexcept {
     using O = Ops<T>;
-    const auto s = O::swap(z);
-    if (Inv) pair = O::swap(pair);
-    return O::fma(s, pair, O::mul(c, O::add(z, s)));
+    const auto t = O::mul(O::swap(z), s);
+    return Inv ? O::fmaddsub(z, c, t) : O::fmsubadd(z, c, t);
 }
 
 // One vectorised L-shaped pass over a block of n points (n/4 a multiple of W),
@@ -149,10 +152,10 @@ template <bool Inv> struct Block<float, 8, Inv> {
         const auto jd = O::mul_j(O::high2(d));                  // j (d2, d3, d2, d3)
         auto z = O::fma(jd, Inv ? O::pm() : O::mp(), O::low2(d));   // z1_0, z1_1, z3_0, z3_1
         // rotations by w^0, w^1, w^0, w^3 of the eight-point transform
-        const float h = 0.70710677f, r2 = 1.4142135f;
+        const float h = 0.70710677f;
         const auto c = _mm256_setr_ps(1, 1, h, h, 1, 1, -h, -h);
-        const auto pair = _mm256_setr_ps(-1, -1, 0, -r2, -1, -1, r2, 0);
-        z = rotate<float, Inv>(z, c, pair);
+        const auto sn = _mm256_setr_ps(0, 0, h, h, 0, 0, h, h);
+        z = rotate<float, Inv>(z, c, sn);
         O::store(x + 8, O::fma(O::high1(z), O::pm1(), O::low1(z)));
         Block<float, 4, Inv>::run(x, lv);
     }

@@ -79,10 +79,6 @@ template <class T> void dif_portable(T* x, std::ptrdiff_t n, const T* tw, std::p
     dif_portable(x + n + n / 2, n / 4, tw, 4 * stride, inverse);
 }
 
-template <class T> void dif(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept {
-    dif_portable(x, n, tw, stride, inverse);
-}
-
 namespace {
 bool has_avx2() noexcept {
 #if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
@@ -281,7 +277,6 @@ template void bit_reverse<float>(float*, int, int, const std::int32_t*, const st
 template void reverse_blocked<double>(double*, int, int, bool, double) noexcept;
 template void reverse_blocked<float>(float*, int, int, bool, float) noexcept;
 
-template void dif<double>(double*, std::ptrdiff_t, const double*, std::ptrdiff_t, bool) noexcept;
 template void dif_portable<double>(double*, std::ptrdiff_t, const double*, std::ptrdiff_t, bool) noexcept;
 template VectorDifFn<double> vector_dif<double>() noexcept;
 template VectorReverseFn<double> vector_reverse<double>() noexcept;
@@ -292,7 +287,6 @@ template void join_real<double>(double*, std::ptrdiff_t, const double*, const do
 template void swap_pairs<double>(double*, const std::int32_t*, int) noexcept;
 template void swap_pairs_scale<double>(double*, const std::int32_t*, const std::int32_t*, int, double) noexcept;
 
-template void dif<float>(float*, std::ptrdiff_t, const float*, std::ptrdiff_t, bool) noexcept;
 template void dif_portable<float>(float*, std::ptrdiff_t, const float*, std::ptrdiff_t, bool) noexcept;
 template VectorDifFn<float> vector_dif<float>() noexcept;
 template VectorReverseFn<float> vector_reverse<float>() noexcept;

@@ -1,6 +1,6 @@
 // The FFT engine's kernels on raw interleaved complex data. The portable
-// versions are the reference; faster ones for wider instruction sets sit in
-// fft_avx2.cpp / fft_avx512.cpp and are chosen once at run time.
+// versions are the reference; the AVX2/FMA ones (fft_avx2.cpp) are chosen once
+// at run time when the processor has both.
 #pragma once
 
 #include <cstddef>
@@ -13,10 +13,9 @@ namespace zf {
 // tw is the twiddle table of a length n * stride (six scalars per entry), read
 // at every stride-th entry. Forward uses the kernel e^(-j 2 pi nk/n), inverse
 // the conjugate.
-template <class T> void dif(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept;
 template <class T> void dif_portable(T* x, std::ptrdiff_t n, const T* tw, std::ptrdiff_t stride, bool inverse) noexcept;
 
-// The vectorised transform: as dif with stride 1, for n >= 4, on the level
+// The vectorised transform: as dif_portable with stride 1, for n >= 4, on the level
 // twiddles lv (tables.hpp) of width vector_width<T>(). Null when the machine
 // lacks the instruction set; chosen once.
 template <class T> using VectorDifFn = void (*)(T* x, std::ptrdiff_t n, const T* lv, bool inverse) noexcept;

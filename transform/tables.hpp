@@ -31,13 +31,14 @@ template <class T> int release_twiddles() noexcept;
 
 // Level twiddles of the vector kernels, which rotate w complex values at a
 // time: for every block size m = 4w, 8w, ... up to n, in increasing order, the
-// rotations w_m^k and w_m^3k (k < m/4) of the table tw of length tn regrouped
-// for the registers: per group of w values, c duplicated for the real and
-// imaginary lane, then the pair (sin - cos, -cos - sin) of the forward
-// rotation, for the angle and for three times the angle (8w scalars per group,
-// 2m per level, so level m starts at scalar 2(m - 4w) whatever n is). One
-// buffer per precision, grown to the longest transform seen; released with the
-// twiddle tables. Null on allocation failure.
+// rotations w_m^k and w_m^3k (k < m/4), taken from the table tw of length tn
+// (its cosines, by symmetry also the sines) and regrouped for the registers:
+// per group of w values, the cosines each twice (for the real and the
+// imaginary lane), then the sines each twice, for the angle and then for three
+// times the angle (8w scalars per group, 2m per level, so level m starts at
+// scalar 2(m - 4w) whatever n is). One buffer per precision, grown to the
+// longest transform seen; released with the twiddle tables. Null on
+// allocation failure.
 template <class T> const T* level_twiddles(int n, const T* tw, int tn, int w) noexcept;
 
 // The fixed-point list ends with this value (0 is a fixed point itself).

@@ -103,6 +103,21 @@ template <class T> const T* twiddles(int n) noexcept {
 
 template <class T> const TableCache<T>& twiddle_cache() noexcept { return cache<T>; }
 
+namespace {
+// cos(2 pi j / tn) for any j, as an entry of the table (or its negation) by the
+// symmetries of the circle.
+template <class T> T table_cos(const T* tw, std::size_t tn, std::size_t j) noexcept {
+    const std::size_t q = tn / 4;
+    j %= tn;
+    if (j < q) return tw[6 * j];
+    if (j == q || j == 3 * q) return T(0);
+    if (j < 2 * q) return -tw[6 * (2 * q - j)];
+    if (j == 2 * q) return T(-1);
+    if (j < 3 * q) return -tw[6 * (j - 2 * q)];
+    return tw[6 * (tn - j)];
+}
+}  // namespace
+
 template <class T> const T* level_twiddles(int n, const T* tw, int tn, int w) noexcept {
     Levels<T>& L = levels<T>;
     if (L.data && L.width == w && L.top >= n) return L.data;
@@ -113,17 +128,18 @@ template <class T> const T* level_twiddles(int n, const T* tw, int tn, int w) no
     if (!grown) return nullptr;
     L.data = grown;
     L.width = w;
+    const std::size_t len = static_cast<std::size_t>(tn), quarter = len / 4;
     for (int m = L.top ? 2 * L.top : 4 * w; m <= n; m *= 2) {
         T* out = grown + 2 * static_cast<std::size_t>(m - 4 * w);
-        const std::size_t stride = static_cast<std::size_t>(tn / m);
+        const std::size_t stride = len / static_cast<std::size_t>(m);
         for (int g = 0; g < m / 4; g += w, out += 8 * w) {
             for (int l = 0; l < w; ++l) {
-                const T* e = tw + 6 * (g + l) * stride;
+                const std::size_t j = static_cast<std::size_t>(g + l) * stride;
                 for (int r = 0; r < 2; ++r) {
+                    const std::size_t a = j * (r ? 3 : 1);   // the angle, in steps of the table
                     T* o = out + 4 * w * r;
-                    o[2 * l] = o[2 * l + 1] = e[3 * r];
-                    o[2 * w + 2 * l] = e[3 * r + 2];
-                    o[2 * w + 2 * l + 1] = e[3 * r + 1];
+                    o[2 * l] = o[2 * l + 1] = table_cos(tw, len, a);
+                    o[2 * w + 2 * l] = o[2 * w + 2 * l + 1] = table_cos(tw, len, a + 3 * quarter);   // sin
                 }
             }
         }
