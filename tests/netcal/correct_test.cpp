@@ -54,21 +54,6 @@ TEST(Correct1PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
     EXPECT_TRUE(untouched_outside(out, start, stop));
 }
 
-TEST(Correct1PortTest, NullArraysAndEmptyRangesWriteNothing) {
-    const int n = 4;
-    Trace a = random_points(n, 6), out = unwritten(n);
-    for (int missing = 0; missing < 5; ++missing) {
-        const double* p[5] = {a.data(), a.data(), a.data(), a.data(), out.data()};
-        p[missing] = nullptr;
-        EXPECT_EQ(Correct1Port(p[0], p[1], p[2], p[3], const_cast<double*>(p[4]), 0, n), 0) << missing;
-    }
-    const double* x = a.data();
-    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), 3, 3), 0);
-    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), 3, 1), -2);
-    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), -1, 2), 0);
-    EXPECT_TRUE(untouched_outside(out, 0, 0));
-}
-
 // Three distinct standards measured through known terms give the terms back.
 TEST(Compute1PortTermsTest, RecoversTheTermsTheStandardsWereMeasuredThrough) {
     const int n = 25, start = 2, stop = 23;
@@ -125,21 +110,29 @@ TEST(ApplyEnhancedResponseTest, AgreesWithClosedForm) {
     }
 }
 
-TEST(ApplyEnhancedResponseTest, OutputsAreOptionalAndRequiredInputsChecked) {
+// Null required arrays and empty ranges write nothing; a reversed range is -2.
+// The enhanced-response outputs are optional, its load match required when
+// the low byte of the flag asks for it.
+TEST(OnePortStatusTest, NullArraysAndEmptyRangesWriteNothing) {
     const int n = 5;
     const Trace a = random_points(n, 20, -0.5, 0.5, 1.0);
-    Trace c11 = unwritten(n), c21 = c11;
+    Trace out = unwritten(n), c21 = out;
     const double* x = a.data();
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, nullptr, 0, n, 0), n);
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, c21.data(), 0, n, 0), n);
     for (int missing = 0; missing < 6; ++missing) {
         const double* p[6] = {x, x, x, x, x, x};
         p[missing] = nullptr;
-        EXPECT_EQ(ApplyEnhancedResponse(p[0], p[1], p[2], x, p[3], p[4], p[5], c11.data(), c11.data(), 0, n, 1), 0);
+        if (missing < 4) EXPECT_EQ(Correct1Port(p[0], p[1], p[2], p[3], out.data(), 0, n), 0) << missing;
+        EXPECT_EQ(ApplyEnhancedResponse(p[0], p[1], p[2], x, p[3], p[4], p[5], out.data(), out.data(), 0, n, 1), 0);
     }
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, c11.data(), c21.data(), 0, n, 0x101), 0);
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, x, x, x, x, c11.data(), c21.data(), 4, 2, 1), -2);
-    EXPECT_TRUE(untouched_outside(c11, 0, 0));
+    EXPECT_EQ(Correct1Port(x, x, x, x, nullptr, 0, n), 0);
+    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), 3, 3), 0);
+    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), 3, 1), -2);
+    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), -1, 2), 0);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, nullptr, 0, n, 0), n);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, c21.data(), 0, n, 0), n);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, out.data(), c21.data(), 0, n, 0x101), 0);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, x, x, x, x, out.data(), c21.data(), 4, 2, 1), -2);
+    EXPECT_TRUE(untouched_outside(out, 0, 0));
 }
 
 namespace {
@@ -161,11 +154,6 @@ struct TwoPort {
         double* p[20];
         for (int i = 0; i < 20; ++i) p[i] = (null_mask >> i) & 1 ? nullptr : a[i].data();
         return api::correct_2port(p, start, stop);
-    }
-    bool nothing_written() const {
-        for (int p = 16; p < 20; ++p)
-            if (!untouched_outside(a[p], 0, 0)) return false;
-        return true;
     }
     TwelveTerms terms(int j) const {
         TwelveTerms e;
@@ -204,24 +192,21 @@ TEST(Correct2PortTest, UndoesTheTwelveTermModelInsideTheRangeOnly) {
         for (int j = start; j < stop; ++j) EXPECT_EQ(lc(t.a[12 + q], j), lc(t.a[16 + q], j)) << "S" << q;
 }
 
-TEST(Correct2PortTest, NullIsolationCountsAsZeroAndNullOutputIsSkipped) {
-    TwoPort zeroed(19, 400), nulled(19, 400);
+// Null isolation counts as zero and a null output is skipped; every other
+// array is required, and empty or reversed ranges write nothing.
+TEST(Correct2PortTest, ArrayAndRangeRules) {
+    TwoPort zeroed(19, 400), nulled(19, 400), t(10, 500);
     zeroed.a[9] = zeroed.a[10] = filled(19, 0);
     ASSERT_EQ(zeroed.run(0, 19), 19);
     ASSERT_EQ(nulled.run(0, 19, (1u << 9) | (1u << 10) | (1u << 17)), 19);
     EXPECT_TRUE(untouched_outside(nulled.a[17], 0, 0));
     for (int p : {0, 2, 3}) EXPECT_EQ(nulled.a[16 + p], zeroed.a[16 + p]) << "S" << p;
-}
-
-// Every array but the two isolation arrays (9, 10) and the outputs is required.
-TEST(Correct2PortTest, MissingArraysAndEmptyRangesWriteNothing) {
-    TwoPort t(10, 500);
     for (int missing : {0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15})
         EXPECT_EQ(t.run(0, 10, 1u << missing), 0) << missing;
     EXPECT_EQ(t.run(5, 5), 0);
     EXPECT_EQ(t.run(7, 2), -5);
     EXPECT_EQ(t.run(-2, 3), 0);
-    EXPECT_TRUE(t.nothing_written());
+    for (int p = 16; p < 20; ++p) EXPECT_TRUE(untouched_outside(t.a[p], 0, 0));
 }
 
 // With unit tracking, zero offsets and unit load and reverse source match,
