@@ -35,7 +35,10 @@ template <class T> int alloc(Vec<T>* v) noexcept {
     const std::int64_t n = need<T>(*v);
     if (n <= v->alloc) return 0;
     if (n > INT32_MAX) {  // the capacity is a 32-bit count of scalars
-        if (v->alloc > 0) std::free(v->data);
+        if (v->alloc > 0) {  // released as destroy would: a hooked block goes back to its hook
+            if (hooks<T>().free) hooks<T>().free(v);
+            else std::free(v->data);
+        }
         v->data = nullptr;
         v->alloc = 0;
         return -1;

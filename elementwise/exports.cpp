@@ -6,7 +6,7 @@
 #include "elementwise/arith.hpp"
 #include "elementwise/convert.hpp"
 #include "elementwise/logexp.hpp"
-#include "elementwise/special.hpp"
+#include "elementwise/bessel.hpp"
 #include "elementwise/trig.hpp"
 
 extern "C" {

@@ -22,8 +22,9 @@ int search_outside_band(const T* data, int start, int stop, int from, int to, Be
     const bool start_in_band = start >= from && start < to;
     if (start_in_band && to >= stop) return -1;
     if (!start_in_band && stop <= start) return start;
-    if (!data || start < 0) return -1;
+    // A start inside the band is never read: the search begins at the band's end.
     int best_at = start_in_band ? to : start;
+    if (!data || best_at < 0) return -1;
     T best = data[best_at];
     int i = best_at + 1;
     while (i < stop) {
@@ -60,7 +61,7 @@ template <class T> int find_max(const T* data, int start, int stop) noexcept {
 // data[start], so the element at start takes no part in the search.
 template <class T> int find_min(const T* data, int start, int stop) noexcept {
     if (static_cast<long long>(stop) <= static_cast<long long>(start) + 1) return start;
-    if (!data || start < 0) return -1;
+    if (!data || start < -1) return -1;  // start = -1 searches from data[0]
     T best = std::numeric_limits<T>::max();
     int best_at = start;
     for (int i = start + 1; i < stop; ++i) {
@@ -81,9 +82,12 @@ template <class T> int find_min2(const T* data, int start, int stop, int excl_fr
 }
 
 template <class T> int find_min_max(const T* data, int start, int stop, int* imax, int* imin) noexcept {
-    if (start > stop || start < 0 || !data || !imax || !imin) return 0;
+    if (start > stop || !data || !imax || !imin) return 0;
+    // With at most one value both indices are start, whatever data[start] holds.
+    const bool several = static_cast<long long>(stop) > static_cast<long long>(start) + 1;
+    if (several && start < 0) return 0;
     *imax = *imin = start;
-    if (start == stop) return 1;
+    if (!several) return 1;
     T lo = data[start], hi = lo;
     int lo_at = start, hi_at = start;
     for (int i = start + 1; i < stop; ++i) {

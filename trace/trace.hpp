@@ -36,19 +36,21 @@ template <class T> int find_max(const T* data, int start, int stop) noexcept;
 
 // Index of the first element after start that is below the largest finite T
 // and smallest among data[start+1 .. stop-1]; data[start] itself is never
-// compared, so start comes back when no later element qualifies. -1 for null
-// data or a negative start.
+// compared, so start comes back when no later element qualifies (start = -1
+// thus searches from data[0]). -1 for null data or a start below -1.
 template <class T> int find_min(const T* data, int start, int stop) noexcept;
 
 // As find_max / find_min over [start, stop) without [excl_from, excl_to),
 // but both start from a real element: start itself when the range is empty
 // and start lies outside the band; -1 when start lies in the band and the band
-// reaches stop, for null data and for a negative start.
+// reaches stop, for null data and when the first element to read (start, or
+// excl_to for a start in the band) has a negative index.
 template <class T> int find_max2(const T* data, int start, int stop, int excl_from, int excl_to) noexcept;
 template <class T> int find_min2(const T* data, int start, int stop, int excl_from, int excl_to) noexcept;
 
 // Both extremes of [start, stop) in one pass (the first of equal extremes).
-// Returns 1, or 0 when start > stop, start < 0 or a pointer is null.
+// Returns 1 (both indices start when the range holds at most one value), or 0
+// when start > stop, a pointer is null, or start < 0 with more than one value.
 template <class T> int find_min_max(const T* data, int start, int stop, int* imax, int* imin) noexcept;
 
 // Axes -----------------------------------------------------------------------

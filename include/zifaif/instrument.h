@@ -24,7 +24,9 @@ extern "C" {
  * reversed range never makes them read or write outside the arrays: they then
  * write nothing and answer as named below. The searches answer start without
  * reading when their range holds at most one value, and -1 (FindMinMax 0) for
- * null data or a negative start. */
+ * null data or when the first value they read would lie before data[0] (a
+ * negative start, except that FindMin never reads data[start] and the band
+ * searches never read a start inside the band). */
 
 /* data[i] *= factor for i in [0, n); nothing for n <= 0. */
 ZF_API void ZF_CDECL vfpdbMul(double factor, double *data, int n);
@@ -55,8 +57,8 @@ ZF_API int ZF_CDECL vfps_FindMin(const float *data, int start, int stop);
 ZF_API int ZF_CDECL vfpd_FindMin2(const double *data, int start, int stop, int exclFrom, int exclTo);
 ZF_API int ZF_CDECL vfps_FindMin2(const float *data, int start, int stop, int exclFrom, int exclTo);
 /* Indices of the first largest and first smallest value of [start, stop) (both
- * start when the range is empty). Returns 1, or 0 when start > stop or a
- * pointer is null. */
+ * start when the range holds at most one value). Returns 1, or 0 when
+ * start > stop or a pointer is null. */
 ZF_API int ZF_CDECL vfpd_FindMinMax(const double *data, int start, int stop, int *imax, int *imin);
 ZF_API int ZF_CDECL vfps_FindMinMax(const float *data, int start, int stop, int *imax, int *imin);
 /* data[0 .. n-1] linearly spaced from first to last. Returns n when n < 2, else

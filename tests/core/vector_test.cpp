@@ -1,5 +1,6 @@
 #include "support/vectors.hpp"
 
+#include <climits>
 #include <cstdlib>
 
 #include "core/cache.hpp"
@@ -243,6 +244,23 @@ TYPED_TEST(VectorTest, FailingAllocationLeavesAnEmptyRecordAndLeaksNothing) {
         if (fail == 2) { EXPECT_EQ(b.v.alloc, 0); EXPECT_EQ(b.v.data, nullptr); }
         if (fail == 3) { EXPECT_EQ(rc, -1); EXPECT_EQ(c.v.alloc, 0); }
     }
+    EXPECT_EQ(H::live, 0);
+}
+
+// A shape whose scalars cannot be counted in 32 bits fails; the storage the
+// record owned is released through the free hook, as destroy would release it.
+TYPED_TEST(VectorTest, AllocBeyondCountableStorageReleasesThroughTheFreeHook) {
+    using T = TypeParam;
+    using H = CountingHooks<T>;
+    typename H::Installed hooks;
+    Owned<T> v({1, 2, 3});
+    ASSERT_EQ(H::live, 1);
+    v.v.points = INT_MAX;
+    v.v.complex = 1;
+    EXPECT_EQ(api::alloc(v.get()), -1);
+    EXPECT_EQ(v.v.data, nullptr);
+    EXPECT_EQ(v.v.alloc, 0);
+    EXPECT_EQ(H::frees, 1);
     EXPECT_EQ(H::live, 0);
 }
 

@@ -69,6 +69,24 @@ TYPED_TEST(TraceExtremaTest, BandSearchesAtTheBandEdges) {
     EXPECT_EQ(api::find_max2(static_cast<const T*>(nullptr), 0, 7, 2, 3), -1);
 }
 
+// FindMin never reads data[start], and a start inside the band is never read
+// either: a negative start there still searches the array. The vector is
+// exactly as long as the trace, so a read before it shows under ASan.
+TYPED_TEST(TraceExtremaTest, SearchesThatSkipStartAcceptANegativeStart) {
+    using T = TypeParam;
+    const std::vector<T> d = {5, 1, 2, T(0.5), 7, 3, 9, -1};
+    EXPECT_EQ(api::find_min(d.data(), -1, 4), 3);  // smallest of 5, 1, 2, 0.5
+    EXPECT_EQ(api::find_min(d.data(), -1, 1), 0);  // 5 is below the largest finite value
+    EXPECT_EQ(api::find_min(d.data(), -1, 0), -1); // nothing after start: start
+    EXPECT_EQ(api::find_min(d.data(), -2, 4), -1); // would read data[-1]
+    EXPECT_EQ(api::find_max2(d.data(), -3, 8, -5, 2), 6);  // begins at data[2]
+    EXPECT_EQ(api::find_min2(d.data(), -3, 8, -5, 2), 7);
+    EXPECT_EQ(api::find_max2(d.data(), -3, 5, -5, 0), 4);  // begins at data[0]
+    EXPECT_EQ(api::find_min2(d.data(), -3, 5, -5, 0), 3);
+    EXPECT_EQ(api::find_max2(d.data(), -3, 8, -5, -1), -1);  // would begin at data[-1]
+    EXPECT_EQ(api::find_min2(d.data(), -1, 8, 0, 3), -1);    // start outside the band
+}
+
 TYPED_TEST(TraceExtremaTest, MinMaxArgumentChecks) {
     using T = TypeParam;
     const std::vector<T> d = {4, 2, 6};
@@ -81,5 +99,16 @@ TYPED_TEST(TraceExtremaTest, MinMaxArgumentChecks) {
     EXPECT_EQ(api::find_min_max(d.data(), 0, 3, nullptr, &imin), 0);
     EXPECT_EQ(api::find_min_max(d.data(), 0, 3, &imax, nullptr), 0);
     EXPECT_EQ(api::find_min_max(static_cast<const T*>(nullptr), 0, 3, &imax, &imin), 0);
+    EXPECT_EQ(imax + imin, -18);
+    // A range of at most one value answers start for both, even a negative one;
+    // more values from a negative start would read before the array.
+    for (auto [start, stop] : {std::pair{-1, -1}, {-1, 0}, {-7, -6}, {1, 2}}) {
+        imax = imin = -9;
+        EXPECT_EQ(api::find_min_max(d.data(), start, stop, &imax, &imin), 1) << start;
+        EXPECT_EQ(imax, start);
+        EXPECT_EQ(imin, start);
+    }
+    imax = imin = -9;
+    EXPECT_EQ(api::find_min_max(d.data(), -1, 2, &imax, &imin), 0);
     EXPECT_EQ(imax + imin, -18);
 }

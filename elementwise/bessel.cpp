@@ -1,4 +1,4 @@
-#include "elementwise/special.hpp"
+#include "elementwise/bessel.hpp"
 
 #include <cmath>
 

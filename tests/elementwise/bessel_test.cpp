@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "elementwise/special.hpp"
+#include "elementwise/bessel.hpp"
 #include "support/api_arith.hpp"
 #include "support/arith_ref.hpp"
 
