@@ -51,17 +51,14 @@ template <class T> constexpr double big_offset() { return sizeof(T) == 8 ? 1e6 :
 template <class T> std::vector<T> sample_data(const Stat<T>& s, int n, bool complex, double offset, unsigned seed) {
     const std::size_t count = static_cast<std::size_t>(n) * (complex ? 2 : 1);
     std::vector<T> u = random_scalars<T>(count, seed, -1.0, 1.0), out(count);
-    if (!s.positive) {
-        for (std::size_t i = 0; i < count; ++i) out[i] = static_cast<T>(offset + std::exp(1.5 * double(u[i])));
-    } else if (!complex) {
-        for (std::size_t i = 0; i < count; ++i) out[i] = static_cast<T>(std::exp(0.5 * double(u[i])));
-    } else {
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = static_cast<T>(s.positive ? std::exp(0.5 * double(u[i])) : offset + std::exp(1.5 * double(u[i])));
+    if (s.positive && complex)
         for (std::size_t i = 0; i < count; i += 2) {
-            const double r = std::exp(0.5 * double(u[i])), phi = 3.0 * double(u[i + 1]);
+            const double r = out[i], phi = 3.0 * double(u[i + 1]);
             out[i] = static_cast<T>(r * std::cos(phi));
             out[i + 1] = static_cast<T>(r * std::sin(phi));
         }
-    }
     return out;
 }
 
