@@ -8,13 +8,34 @@
 #include "bench/support.hpp"
 #include "transform/fft.hpp"
 
+#include <cstdlib>
 #include <memory>
 
 namespace {
 
+// A record owning storage for n complex pairs aligned to 64 bytes, as FFTW's
+// buffers are (the kernels load 32 bytes at a time, and storage from malloc,
+// aligned to 16 bytes only, splits half of those loads across cache lines:
+// 25-35% slower). The record frees it with the standard allocator.
+template <class T> struct Aligned {
+    zf::Vec<T> v;
+    Aligned(int n, bool complex) {
+        zf::init<T>(&v);
+        v.data = static_cast<T*>(std::aligned_alloc(64, 2 * static_cast<std::size_t>(n) * sizeof(T)));
+        v.alloc = 2 * n;
+        v.points = n;
+        v.complex = complex;
+        for (long i = 0; i < zf::need<T>(v); ++i) v.data[i] = static_cast<T>((i % 13) * 0.1 - 0.6);
+    }
+    ~Aligned() { zf::destroy<T>(&v); }
+    Aligned(const Aligned&) = delete;
+    Aligned& operator=(const Aligned&) = delete;
+    zf::Vec<T>* get() { return &v; }
+};
+
 template <class T> void BM_fft_round_trip(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
-    zb::Filled<T> v(n, true);
+    Aligned<T> v(n, true);
     zf::fft<T>(v.get(), 0);   // tables built, storage touched
     zf::fft<T>(v.get(), 1);
 #ifdef ZF_HAVE_FFTW
@@ -39,7 +60,7 @@ template <class T> void BM_fft_round_trip(benchmark::State& state) {
 
 template <class T> void BM_rfft_round_trip(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
-    zb::Filled<T> v(n, false);
+    Aligned<T> v(n, false);
     zf::rfft<T>(v.get());
     zf::irfft<T>(v.get());
 #ifdef ZF_HAVE_FFTW

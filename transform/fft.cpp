@@ -42,9 +42,11 @@ template <class T> struct Plan {
         if (vec) vec(x, n, levels, inverse);
         else dif_portable<T>(x, n, tw, tn / n, inverse);
     }
-    // The level table of block size m (valid when levels reach m).
+    // The level table of block size m (levels reach m), or null when the
+    // vector kernel has none that small.
     const T* level(int m) const noexcept {
-        return levels ? levels + 2 * (static_cast<std::ptrdiff_t>(m) - 4 * vector_width<T>()) : nullptr;
+        const int w4 = 4 * vector_width<T>();
+        return levels && m >= w4 ? levels + 2 * (static_cast<std::ptrdiff_t>(m) - w4) : nullptr;
     }
 };
 

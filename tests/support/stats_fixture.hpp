@@ -1,10 +1,11 @@
-// A typed fixture for the statistics tests: runs one statistic on a vector of
-// given scalars through the C entry point and returns the result's scalars.
+// A typed fixture for the statistics tests, running one statistic on given
+// scalars through the C entry point, and allocation hooks that count blocks.
 #pragma once
 
 #include "support/api_stats.hpp"
 #include "support/vectors.hpp"
 
+#include <cstdlib>
 #include <cstring>
 
 namespace zt {
@@ -21,6 +22,28 @@ protected:
         EXPECT_EQ(fn(in.get(), out.get()), 0);
         EXPECT_EQ(std::memcmp(in.v.data, s.data(), s.size() * sizeof(T)), 0) << "input changed";
         return out.scalars();
+    }
+};
+
+// Hooks that allocate with malloc, count blocks and can refuse every allocation.
+template <class T> struct BlockHooks {
+    static inline int allocs = 0, frees = 0;
+    static inline bool refuse = false;
+    static void ZF_CDECL alloc(Vec<T>* v) {
+        if (v->alloc > 0) { std::free(v->data); ++frees; }
+        v->data = refuse ? nullptr : static_cast<T*>(std::malloc(zf::need<T>(*v) * sizeof(T)));
+        if (v->data) ++allocs;
+    }
+    static void ZF_CDECL free(Vec<T>* v) { ++frees; std::free(v->data); }
+    explicit BlockHooks(bool refuse_first) {
+        allocs = frees = 0;
+        refuse = refuse_first;
+        api::lib_alloc(&BlockHooks::alloc, nullptr);
+        api::lib_free(&BlockHooks::free, nullptr);
+    }
+    ~BlockHooks() {
+        api::lib_alloc(decltype(&BlockHooks::alloc)(nullptr), nullptr);
+        api::lib_free(decltype(&BlockHooks::free)(nullptr), nullptr);
     }
 };
 

@@ -34,29 +34,24 @@ template <class T> R sum(const std::vector<T>& s, bool complex) {
 }
 
 template <class T> R mean(const std::vector<T>& s, bool complex) {
-    const auto z = samples(s, complex);
-    C acc = 0;
-    for (C x : z) acc += x;
-    return result(z.empty() ? C(0) : acc / L(z.size()), complex);
+    const std::size_t n = samples(s, complex).size();
+    R r = sum(s, complex);
+    for (L& x : r) x = n ? x / L(n) : 0;
+    return r;
 }
 
-// The first sample of smallest (largest) value or squared magnitude.
-template <class T> R min(const std::vector<T>& s, bool complex) {
+// The first sample of smallest (sign -1) or largest (sign 1) value, or of
+// squared magnitude when complex.
+template <class T> R extreme(const std::vector<T>& s, bool complex, int sign) {
     const auto z = samples(s, complex);
-    auto key = [complex](C x) { return complex ? norm2(x) : x.real(); };
-    C best = z.empty() ? C(0) : z[0];
-    for (C x : z)
-        if (key(x) < key(best)) best = x;
-    return result(best, complex);
-}
-template <class T> R max(const std::vector<T>& s, bool complex) {
-    const auto z = samples(s, complex);
-    auto key = [complex](C x) { return complex ? norm2(x) : x.real(); };
+    auto key = [&](C x) { return sign * (complex ? norm2(x) : x.real()); };
     C best = z.empty() ? C(0) : z[0];
     for (C x : z)
         if (key(x) > key(best)) best = x;
     return result(best, complex);
 }
+template <class T> R min(const std::vector<T>& s, bool complex) { return extreme(s, complex, -1); }
+template <class T> R max(const std::vector<T>& s, bool complex) { return extreme(s, complex, 1); }
 
 // Middle of the sorted samples; complex ones sorted by squared magnitude, then
 // real part, then imaginary part.

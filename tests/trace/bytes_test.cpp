@@ -33,9 +33,7 @@ TYPED_TEST(TraceBytesTest, CopiesElementsFromAnyByteOffset) {
             raw[1 + (3 + k) * w + b] = E::big_endian[k][w - 1 - b];
         }
     const std::uint16_t one = 1;
-    unsigned char low_byte_first = 0;
-    std::memcpy(&low_byte_first, &one, 1);
-    const bool little = low_byte_first == 1;
+    const bool little = *reinterpret_cast<const unsigned char*>(&one) == 1;
     const int native = little ? 1 + 3 * w : 1, foreign = little ? 1 : 1 + 3 * w;
     std::vector<T> dst(5, T(-99));
     EXPECT_EQ(api::byte_copy_to_fp(native, raw.data(), dst.data(), 1, 3, 0), 0);
@@ -79,11 +77,8 @@ TEST_P(TraceByteSwapTest, PermutesOnlyTheFirstElementOncePerElement) {
 
 TEST_P(TraceByteSwapTest, RejectsSizesThatAreNotWholeElements) {
     std::vector<unsigned char> buf = {1, 2, 3, 4, 5, 6};
-    EXPECT_EQ(GetParam()(buf.data(), 6, 4), -1);
-    EXPECT_EQ(GetParam()(buf.data(), 0, 4), -1);
-    EXPECT_EQ(GetParam()(buf.data(), 2, 4), -1);
-    EXPECT_EQ(GetParam()(buf.data(), 6, 0), -1);
-    EXPECT_EQ(GetParam()(buf.data(), -4, 4), -1);
+    for (auto [n, width] : {std::pair{6, 4u}, {0, 4u}, {2, 4u}, {6, 0u}, {-4, 4u}})
+        EXPECT_EQ(GetParam()(buf.data(), n, width), -1) << n << " bytes of width " << width;
     EXPECT_EQ(GetParam()(nullptr, 4, 2), -1);
     EXPECT_EQ(buf, (std::vector<unsigned char>{1, 2, 3, 4, 5, 6}));
 }

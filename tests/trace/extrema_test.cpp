@@ -14,22 +14,20 @@ template <class T> std::vector<T> coarse_trace(std::size_t n, unsigned seed) {
     return v;
 }
 
-TYPED_TEST(TraceExtremaTest, SingleSearchesOnHandExamples) {
+// What the random ranges do not reach: empty and reversed ranges, values at
+// the top of the range, null data.
+TYPED_TEST(TraceExtremaTest, SingleSearchesOnEmptyRangesAndNullData) {
     using T = TypeParam;
-    const std::vector<T> a = {3, 1, 2}, b = {0, 5, 6}, c = {2, 7, 7};
-    EXPECT_EQ(api::find_min(a.data(), 0, 3), 1);
-    EXPECT_EQ(api::find_min(b.data(), 0, 3), 1);  // data[start] = 0 is never compared
-    EXPECT_EQ(api::find_min(b.data(), 2, 3), 2);
-    EXPECT_EQ(api::find_max(c.data(), 0, 3), 1);  // first of equal maxima
+    const T big = std::numeric_limits<T>::max(), inf = std::numeric_limits<T>::infinity();
+    const std::vector<T> c = {2, 7, 7}, d = {-1, big, inf};
     EXPECT_EQ(api::find_max(c.data(), 2, 2), 2);
     EXPECT_EQ(api::find_max(c.data(), 2, 0), 2);  // reversed: start
     EXPECT_EQ(api::find_min(c.data(), 2, 0), 2);
-    // Nothing below the largest finite value after start: start comes back.
-    const T big = std::numeric_limits<T>::max(), inf = std::numeric_limits<T>::infinity();
-    const std::vector<T> d = {-1, big, inf};
-    EXPECT_EQ(api::find_min(d.data(), 0, 3), 0);
+    EXPECT_EQ(api::find_max2(c.data(), 2, 2, 0, 1), 2);  // empty range outside the band
+    EXPECT_EQ(api::find_min(d.data(), 0, 3), 0);  // nothing below the largest finite value after start
     EXPECT_EQ(api::find_max(static_cast<const T*>(nullptr), 0, 3), -1);
     EXPECT_EQ(api::find_min(static_cast<const T*>(nullptr), 0, 3), -1);
+    EXPECT_EQ(api::find_max2(static_cast<const T*>(nullptr), 0, 3, 1, 2), -1);
 }
 
 TYPED_TEST(TraceExtremaTest, SearchesMatchReferenceOnRandomRangesAndBands) {
@@ -57,18 +55,6 @@ TYPED_TEST(TraceExtremaTest, SearchesMatchReferenceOnRandomRangesAndBands) {
     }
 }
 
-TYPED_TEST(TraceExtremaTest, BandSearchesAtTheBandEdges) {
-    using T = TypeParam;
-    const std::vector<T> d = {9, 1, 8, 0, 5, 5, -3};
-    EXPECT_EQ(api::find_max2(d.data(), 1, 7, 0, 7), -1);  // start in band, band reaches stop
-    EXPECT_EQ(api::find_min2(d.data(), 1, 5, 0, 5), -1);
-    EXPECT_EQ(api::find_max2(d.data(), 0, 7, 0, 4), 4);   // begins at the band end, first of equal
-    EXPECT_EQ(api::find_min2(d.data(), 0, 6, 2, 4), 1);
-    EXPECT_EQ(api::find_min2(d.data(), 3, 6, 5, 3), 3);   // empty band; data[start] takes part
-    EXPECT_EQ(api::find_max2(d.data(), 4, 4, 0, 2), 4);   // empty range outside the band
-    EXPECT_EQ(api::find_max2(static_cast<const T*>(nullptr), 0, 7, 2, 3), -1);
-}
-
 // FindMin never reads data[start], and a start inside the band is never read
 // either: a negative start there still searches the array. The vector is
 // exactly as long as the trace, so a read before it shows under ASan.
@@ -91,10 +77,6 @@ TYPED_TEST(TraceExtremaTest, MinMaxArgumentChecks) {
     using T = TypeParam;
     const std::vector<T> d = {4, 2, 6};
     int imax = -9, imin = -9;
-    EXPECT_EQ(api::find_min_max(d.data(), 2, 2, &imax, &imin), 1);
-    EXPECT_EQ(imax, 2);
-    EXPECT_EQ(imin, 2);
-    imax = imin = -9;
     EXPECT_EQ(api::find_min_max(d.data(), 2, 1, &imax, &imin), 0);
     EXPECT_EQ(api::find_min_max(d.data(), 0, 3, nullptr, &imin), 0);
     EXPECT_EQ(api::find_min_max(d.data(), 0, 3, &imax, nullptr), 0);
@@ -102,7 +84,7 @@ TYPED_TEST(TraceExtremaTest, MinMaxArgumentChecks) {
     EXPECT_EQ(imax + imin, -18);
     // A range of at most one value answers start for both, even a negative one;
     // more values from a negative start would read before the array.
-    for (auto [start, stop] : {std::pair{-1, -1}, {-1, 0}, {-7, -6}, {1, 2}}) {
+    for (auto [start, stop] : {std::pair{-1, -1}, {-1, 0}, {-7, -6}, {1, 2}, {2, 2}}) {
         imax = imin = -9;
         EXPECT_EQ(api::find_min_max(d.data(), start, stop, &imax, &imin), 1) << start;
         EXPECT_EQ(imax, start);

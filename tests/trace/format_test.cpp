@@ -43,17 +43,21 @@ TYPED_TEST(TraceFormatTest, FormatsMatchTextbookDefinitionsInsideTheRange) {
     }
 }
 
-TYPED_TEST(TraceFormatTest, UnknownCodesAndEmptyRangesWriteNothing) {
+TYPED_TEST(TraceFormatTest, UnknownCodesEmptyRangesAndNullDataWriteNothing) {
     using T = TypeParam;
-    const std::vector<T> z = {1, 2, 3, 4};
-    std::vector<T> dst(2, T(-99));
-    for (int code : {6, 7, -1}) api::format_buffer(code, z.data(), dst.data(), 0, 2);
+    const std::vector<T> z = {1, 0, 0, 1, -1, 0};
+    const T* none = nullptr;
+    std::vector<T> dst(3, T(-99));
+    for (int code : {6, 7, -1}) api::format_buffer(code, z.data(), dst.data(), 0, 3);
     for (int code = 0; code < 6; ++code) {
         api::format_buffer(code, z.data(), dst.data(), 1, 1);
         api::format_buffer(code, z.data(), dst.data(), 2, 0);
-        api::format_buffer(code, static_cast<const T*>(nullptr), dst.data(), 0, 2);
+        api::format_buffer(code, none, dst.data(), 0, 2);
     }
-    EXPECT_EQ(dst, std::vector<T>(2, T(-99)));
+    api::unwrap_phase(z.data(), 2, 1, dst.data(), 1);
+    api::unwrap_phase(z.data(), -1, 2, dst.data(), 1);
+    api::unwrap_phase(none, 0, 3, dst.data(), 1);
+    EXPECT_EQ(dst, std::vector<T>(3, T(-99)));
 }
 
 TYPED_TEST(TraceFormatTest, StandingWaveRatioLimit) {
@@ -101,16 +105,6 @@ TYPED_TEST(TraceFormatTest, UnwrapRecoversContinuousPhaseWholeAndInChunks) {
     }
 }
 
-TYPED_TEST(TraceFormatTest, UnwrapLeavesReversedRangesAlone) {
-    using T = TypeParam;
-    const std::vector<T> z = {1, 0, 0, 1, -1, 0};
-    std::vector<T> dst(3, T(-99));
-    api::unwrap_phase(z.data(), 2, 1, dst.data(), 1);
-    api::unwrap_phase(z.data(), -1, 2, dst.data(), 1);
-    api::unwrap_phase(static_cast<const T*>(nullptr), 0, 3, dst.data(), 1);
-    EXPECT_EQ(dst, std::vector<T>(3, T(-99)));
-}
-
 TEST(TraceFormat, FloatUnwrapAnswersStop) {
     const float z[6] = {1, 0, 0, 1, -1, 0};
     float dst[3];
@@ -120,34 +114,24 @@ TEST(TraceFormat, FloatUnwrapAnswersStop) {
 }
 
 // The phase display and the unwrapping use degree factors that differ in the
-// last digits; at a half turn the display stays about 1.2e-11 short of 180.
-TEST(TraceFormat, PhaseDisplayAndUnwrapUseTheirOwnDegreeFactors) {
-    const double z[2] = {-1, 0};
-    double phase = 0, unwrapped = 0;
-    vfpd_FormatBuffer(2, z, &phase, 0, 1);
-    vfpd_FormatBuffer(3, z, &unwrapped, 0, 1);
+// last digits: at a half turn the display stays about 1.2e-11 short of 180. A
+// step of exactly half a turn is not unwrapped, either way. Log of zero: ±inf.
+TEST(TraceFormat, DoublePrecisionEndCases) {
+    const double half[2] = {-1, 0}, zero[2] = {0, 0}, steps[6] = {1, 0, -1, 0, 1, 0};
+    double phase = 0, unwrapped = 0, db = 0, rl = 0, rad[3], deg[3];
+    vfpd_FormatBuffer(2, half, &phase, 0, 1);
+    vfpd_FormatBuffer(3, half, &unwrapped, 0, 1);
     EXPECT_NEAR(unwrapped, 180.0, 1e-13);
     EXPECT_NEAR(phase, 180.0 - 1.18e-11, 0.02e-11);
-}
-
-// A step of exactly half a turn is not unwrapped, either way.
-TEST(TraceFormat, UnwrapLeavesAnExactHalfTurnAlone) {
-    const double z[6] = {1, 0, -1, 0, 1, 0};
-    double rad[3], deg[3];
-    vfpd_UnwrapPhase(z, 0, 3, rad, 0);
-    vfpd_UnwrapPhase(z, 0, 3, deg, 1);
+    vfpd_FormatBuffer(0, zero, &db, 0, 1);
+    vfpd_FormatBuffer(5, zero, &rl, 0, 1);
+    EXPECT_EQ(db, -HUGE_VAL);
+    EXPECT_EQ(rl, HUGE_VAL);
+    vfpd_UnwrapPhase(steps, 0, 3, rad, 0);
+    vfpd_UnwrapPhase(steps, 0, 3, deg, 1);
     EXPECT_EQ(rad[0], 0.0);
     EXPECT_DOUBLE_EQ(rad[1], M_PI);
     EXPECT_EQ(rad[2], 0.0);
     EXPECT_DOUBLE_EQ(deg[1], 180.0);
     EXPECT_EQ(deg[2], 0.0);
-}
-
-TEST(TraceFormat, LogOfZeroIsMinusInfinity) {
-    const double z[2] = {0, 0};
-    double db = 0, rl = 0;
-    vfpd_FormatBuffer(0, z, &db, 0, 1);
-    vfpd_FormatBuffer(5, z, &rl, 0, 1);
-    EXPECT_EQ(db, -HUGE_VAL);
-    EXPECT_EQ(rl, HUGE_VAL);
 }

@@ -74,10 +74,6 @@ TYPED_TEST(TraceScaleTest, ScaleToIntMatchesReferenceOnRandomTraces) {
 
 TYPED_TEST(TraceScaleTest, ScaleToFpMapsRangesInPlaceAndOutOfPlace) {
     using T = TypeParam;
-    std::vector<T> src = {0, 5, 10, 15, T(-2.5)};
-    std::vector<T> dst(src.size());
-    api::scale_to_fp(src.data(), int(src.size()), T(0), T(10), dst.data(), T(-1), T(1));
-    EXPECT_EQ(dst, (std::vector<T>{-1, 0, 1, 2, T(-1.5)}));
     const auto noise = random_scalars<T>(300, 5, -100.0, 100.0);
     std::vector<T> out(noise.size()), in_place = noise;
     api::scale_to_fp(noise.data(), int(noise.size()), T(-100), T(60), out.data(), T(3), T(-7));
