@@ -14,22 +14,15 @@ namespace {
 using Trace = std::vector<double>;
 constexpr double kUnwritten = 12345.0;
 
-// Point i of a trace as long double, and a trace built from such points.
-Trace from_points(const std::vector<LC>& z) {
-    Trace t(2 * z.size());
-    for (std::size_t i = 0; i < z.size(); ++i) {
-        t[2 * i] = static_cast<double>(z[i].real());
-        t[2 * i + 1] = static_cast<double>(z[i].imag());
-    }
-    return t;
-}
 Trace filled(std::size_t n, double re, double im = 0) {
     Trace t(2 * n);
-    for (std::size_t i = 0; i < n; ++i) {
-        t[2 * i] = re;
-        t[2 * i + 1] = im;
-    }
+    for (std::size_t i = 0; i < n; ++i) t[2 * i] = re, t[2 * i + 1] = im;
     return t;
+}
+Trace unwritten(std::size_t n) { return filled(n, kUnwritten, kUnwritten); }
+void put(Trace& t, std::size_t i, LC z) {
+    t[2 * i] = static_cast<double>(z.real());
+    t[2 * i + 1] = static_cast<double>(z.imag());
 }
 ::testing::AssertionResult close(LC got, LC want, long double tol, std::size_t at) {
     if (std::abs(got - want) <= tol * std::fmax(1.0L, std::abs(want))) return ::testing::AssertionSuccess();
@@ -47,71 +40,37 @@ Trace filled(std::size_t n, double re, double im = 0) {
 
 }  // namespace
 
-// ---------------------------------------------------------------- one port
-
 TEST(Correct1PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
     const int n = 40, start = 3, stop = 37;
     const Trace d = random_points(n, 1, -0.1, 0.1), s = random_points(n, 2, -0.3, 0.3),
                 r = random_points(n, 3, -0.2, 0.2, 1.0), m = random_points(n, 4);
-    Trace out = filled(n, kUnwritten, kUnwritten);
+    Trace out = unwritten(n), in_place = m;
     ASSERT_EQ(Correct1Port(d.data(), s.data(), r.data(), m.data(), out.data(), start, stop), stop - start);
-    for (int j = start; j < stop; ++j)
-        EXPECT_TRUE(close(lc(out, j), one_port_corrected(lc(m, j), lc(d, j), lc(s, j), lc(r, j)), 8 * DBL_EPSILON, j));
-    EXPECT_TRUE(untouched_outside(out, start, stop));
-    // In place: the corrected trace overwrites the measured one.
-    Trace in_place = m;
     ASSERT_EQ(Correct1Port(d.data(), s.data(), r.data(), in_place.data(), in_place.data(), start, stop), stop - start);
-    for (int j = start; j < stop; ++j) EXPECT_EQ(lc(in_place, j), lc(out, j));
-}
-
-TEST(Correct1PortTest, IdealTermsCopyTheMeasurement) {
-    const int n = 9;
-    const Trace zero = filled(n, 0), unit = filled(n, 1), m = random_points(n, 5, -3, 3);
-    Trace out(2 * n);
-    ASSERT_EQ(Correct1Port(zero.data(), zero.data(), unit.data(), m.data(), out.data(), 0, n), n);
-    EXPECT_EQ(out, m);
-}
-
-TEST(Correct1PortTest, NullArraysAndEmptyRangesWriteNothing) {
-    const int n = 4;
-    Trace a = random_points(n, 6), out = filled(n, kUnwritten, kUnwritten);
-    for (int missing = 0; missing < 5; ++missing) {
-        const double* p[5] = {a.data(), a.data(), a.data(), a.data(), out.data()};
-        p[missing] = nullptr;
-        EXPECT_EQ(Correct1Port(p[0], p[1], p[2], p[3], const_cast<double*>(p[4]), 0, n), 0) << missing;
+    for (int j = start; j < stop; ++j) {
+        EXPECT_TRUE(close(lc(out, j), one_port_corrected(lc(m, j), lc(d, j), lc(s, j), lc(r, j)), 8 * DBL_EPSILON, j));
+        EXPECT_EQ(lc(in_place, j), lc(out, j));
     }
-    EXPECT_EQ(Correct1Port(a.data(), a.data(), a.data(), a.data(), out.data(), 3, 3), 0);
-    EXPECT_EQ(Correct1Port(a.data(), a.data(), a.data(), a.data(), out.data(), 3, 1), -2);
-    EXPECT_EQ(Correct1Port(a.data(), a.data(), a.data(), a.data(), out.data(), -1, 2), 0);
-    EXPECT_TRUE(untouched_outside(out, 0, 0));
+    EXPECT_TRUE(untouched_outside(out, start, stop));
 }
 
-// The terms come back from three standards measured through them: open,
-// short and load, and arbitrary distinct standards.
+// Three distinct standards measured through known terms give the terms back.
 TEST(Compute1PortTermsTest, RecoversTheTermsTheStandardsWereMeasuredThrough) {
     const int n = 25, start = 2, stop = 23;
-    const Trace e00 = random_points(n, 7, -0.1, 0.1), e11 = random_points(n, 8, -0.3, 0.3),
-                e10e01 = random_points(n, 9, -0.3, 0.3, 0.8);
-    const std::vector<Trace> standard_sets[2] = {
-        {filled(n, 1), filled(n, -1), filled(n, 0)},
-        {random_points(n, 10, -1, 1), random_points(n, 11, -1, 1), random_points(n, 12, -1, 1)}};
-    for (const std::vector<Trace>& g : standard_sets) {
-        Trace m[3];
-        for (int i = 0; i < 3; ++i) {
-            std::vector<LC> z(n, LC(kUnwritten, kUnwritten));
-            for (int j = start; j < stop; ++j) z[j] = one_port_measured(lc(g[i], j), lc(e00, j), lc(e11, j), lc(e10e01, j));
-            m[i] = from_points(z);
-        }
-        const std::vector<Trace> g_before = g;
-        Compute1PortTerms(m[0].data(), m[1].data(), m[2].data(), g[0].data(), g[1].data(), g[2].data(), start, stop);
-        for (int j = start; j < stop; ++j) {
-            EXPECT_TRUE(close(lc(m[0], j), lc(e00, j), 1e-12L, j));
-            EXPECT_TRUE(close(lc(m[1], j), lc(e11, j), 1e-12L, j));
-            EXPECT_TRUE(close(lc(m[2], j), lc(e10e01, j), 1e-12L, j));
-        }
-        for (int i = 0; i < 3; ++i) EXPECT_TRUE(untouched_outside(m[i], start, stop));
-        EXPECT_EQ(g, g_before);
+    const Trace e[3] = {random_points(n, 7, -0.1, 0.1), random_points(n, 8, -0.3, 0.3),
+                        random_points(n, 9, -0.3, 0.3, 0.8)};
+    const Trace g[3] = {random_points(n, 10), random_points(n, 11), random_points(n, 12)};
+    Trace m[3] = {unwritten(n), unwritten(n), unwritten(n)};
+    for (int i = 0; i < 3; ++i)
+        for (int j = start; j < stop; ++j)
+            put(m[i], j, one_port_measured(lc(g[i], j), lc(e[0], j), lc(e[1], j), lc(e[2], j)));
+    const Trace g0 = g[0];
+    Compute1PortTerms(m[0].data(), m[1].data(), m[2].data(), g[0].data(), g[1].data(), g[2].data(), start, stop);
+    for (int i = 0; i < 3; ++i) {
+        for (int j = start; j < stop; ++j) EXPECT_TRUE(close(lc(m[i], j), lc(e[i], j), 1e-12L, j)) << "term " << i;
+        EXPECT_TRUE(untouched_outside(m[i], start, stop));
     }
+    EXPECT_EQ(g[0], g0);
 }
 
 // Three identical standards make a singular system; the partly reduced matrix
@@ -128,8 +87,6 @@ TEST(Compute1PortTermsTest, SingularStandardsGiveThePartlyReducedTerms) {
     EXPECT_EQ(lc(m3, 0), LC(-15, 0));
 }
 
-// ---------------------------------------------------------- enhanced response
-
 TEST(ApplyEnhancedResponseTest, AgreesWithClosedForm) {
     const int n = 30, start = 1, stop = 29;
     const Trace d = random_points(n, 13, -0.1, 0.1), s = random_points(n, 14, -0.3, 0.3),
@@ -137,7 +94,7 @@ TEST(ApplyEnhancedResponseTest, AgreesWithClosedForm) {
                 t = random_points(n, 17, -0.2, 0.2, 0.9), m11 = random_points(n, 18), m21 = random_points(n, 19);
     for (const int flag : {0, 1, 0x100, 0x2FF}) {
         const bool with_load = (flag & 0xFF) != 0;
-        Trace c11 = filled(n, kUnwritten, kUnwritten), c21 = c11;
+        Trace c11 = unwritten(n), c21 = c11;
         ASSERT_EQ(ApplyEnhancedResponse(d.data(), s.data(), r.data(), with_load ? l.data() : nullptr, t.data(),
                                         m11.data(), m21.data(), c11.data(), c21.data(), start, stop, flag),
                   stop - start);
@@ -153,28 +110,30 @@ TEST(ApplyEnhancedResponseTest, AgreesWithClosedForm) {
     }
 }
 
-TEST(ApplyEnhancedResponseTest, OutputsAreOptionalAndRequiredInputsChecked) {
+// Null required arrays and empty ranges write nothing; a reversed range is -2.
+// The enhanced-response outputs are optional, its load match required when
+// the low byte of the flag asks for it.
+TEST(OnePortStatusTest, NullArraysAndEmptyRangesWriteNothing) {
     const int n = 5;
     const Trace a = random_points(n, 20, -0.5, 0.5, 1.0);
-    Trace c11 = filled(n, kUnwritten, kUnwritten), c21 = c11;
+    Trace out = unwritten(n), c21 = out;
     const double* x = a.data();
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, nullptr, 0, n, 0), n);
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, c21.data(), 0, n, 0), n);
-    EXPECT_TRUE(untouched_outside(c11, 0, 0));
     for (int missing = 0; missing < 6; ++missing) {
         const double* p[6] = {x, x, x, x, x, x};
         p[missing] = nullptr;
-        Trace o11 = filled(n, kUnwritten, kUnwritten), o21 = o11;
-        EXPECT_EQ(ApplyEnhancedResponse(p[0], p[1], p[2], x, p[3], p[4], p[5], o11.data(), o21.data(), 0, n, 1), 0);
-        EXPECT_TRUE(untouched_outside(o11, 0, 0));
-        EXPECT_TRUE(untouched_outside(o21, 0, 0));
+        if (missing < 4) EXPECT_EQ(Correct1Port(p[0], p[1], p[2], p[3], out.data(), 0, n), 0) << missing;
+        EXPECT_EQ(ApplyEnhancedResponse(p[0], p[1], p[2], x, p[3], p[4], p[5], out.data(), out.data(), 0, n, 1), 0);
     }
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, c11.data(), c21.data(), 0, n, 0x101), 0);
-    EXPECT_TRUE(untouched_outside(c11, 0, 0));
-    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, x, x, x, x, c11.data(), c21.data(), 4, 2, 1), -2);
+    EXPECT_EQ(Correct1Port(x, x, x, x, nullptr, 0, n), 0);
+    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), 3, 3), 0);
+    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), 3, 1), -2);
+    EXPECT_EQ(Correct1Port(x, x, x, x, out.data(), -1, 2), 0);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, nullptr, 0, n, 0), n);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, c21.data(), 0, n, 0), n);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, out.data(), c21.data(), 0, n, 0x101), 0);
+    EXPECT_EQ(ApplyEnhancedResponse(x, x, x, x, x, x, x, out.data(), c21.data(), 4, 2, 1), -2);
+    EXPECT_TRUE(untouched_outside(out, 0, 0));
 }
-
-// ------------------------------------------------------------------ two port
 
 namespace {
 
@@ -184,11 +143,11 @@ struct TwoPort {
     Trace a[20];
     explicit TwoPort(int points, unsigned seed) : n(points) {
         for (int p = 0; p < 4; ++p) {
-            a[p] = random_points(n, seed + p, -0.2, 0.2, 0.9);           // tracking
-            a[4 + p] = random_points(n, seed + 4 + p, -0.3, 0.3);        // match
-            a[8 + p] = random_points(n, seed + 8 + p, -0.05, 0.05);      // offset
-            a[12 + p] = random_points(n, seed + 12 + p, -0.9, 0.9);      // measured
-            a[16 + p] = filled(n, kUnwritten, kUnwritten);               // corrected
+            a[p] = random_points(n, seed + p, -0.2, 0.2, 0.9);       // tracking
+            a[4 + p] = random_points(n, seed + 4 + p, -0.3, 0.3);    // match
+            a[8 + p] = random_points(n, seed + 8 + p, -0.05, 0.05);  // offset
+            a[12 + p] = random_points(n, seed + 12 + p, -0.9, 0.9);  // measured
+            a[16 + p] = unwritten(n);                                // corrected
         }
     }
     int run(int start, int stop, unsigned null_mask = 0) {
@@ -207,18 +166,24 @@ struct TwoPort {
 
 }  // namespace
 
-// 45 points: blocks of eight and a tail, from an odd start.
-TEST(Correct2PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
-    TwoPort t(45, 100);
-    const int start = 3, stop = 44;
-    ASSERT_EQ(t.run(start, stop), stop - start);
-    for (int j = start; j < stop; ++j) {
-        LC m[4], s[4];
-        for (int p = 0; p < 4; ++p) m[p] = lc(t.a[12 + p], j);
-        two_port_corrected(m, t.terms(j), s);
-        for (int p = 0; p < 4; ++p) EXPECT_TRUE(close(lc(t.a[16 + p], j), s[p], 1e-13L, j)) << "S" << p;
+// A device measured through the forward twelve-term model comes back; 45
+// points give blocks of eight and a tail, from an odd start.
+TEST(Correct2PortTest, UndoesTheTwelveTermModelInsideTheRangeOnly) {
+    const int n = 45, start = 3, stop = 44;
+    TwoPort t(n, 100);
+    const Trace actual[4] = {random_points(n, 300), random_points(n, 301), random_points(n, 302),
+                             random_points(n, 303)};
+    for (int j = 0; j < n; ++j) {
+        LC s[4], m[4];
+        for (int p = 0; p < 4; ++p) s[p] = lc(actual[p], j);
+        two_port_measured(s, t.terms(j), m);
+        for (int p = 0; p < 4; ++p) put(t.a[12 + p], j, m[p]);
     }
-    for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], start, stop));
+    ASSERT_EQ(t.run(start, stop), stop - start);
+    for (int p = 0; p < 4; ++p) {
+        for (int j = start; j < stop; ++j) EXPECT_TRUE(close(lc(t.a[16 + p], j), lc(actual[p], j), 1e-12L, j)) << "S" << p;
+        EXPECT_TRUE(untouched_outside(t.a[16 + p], start, stop));
+    }
     // In place: each corrected S-parameter overwrites its measurement.
     double* p[20];
     for (int i = 0; i < 20; ++i) p[i] = t.a[i < 16 ? i : i - 4].data();
@@ -227,52 +192,21 @@ TEST(Correct2PortTest, AgreesWithClosedFormInsideTheRangeOnly) {
         for (int j = start; j < stop; ++j) EXPECT_EQ(lc(t.a[12 + q], j), lc(t.a[16 + q], j)) << "S" << q;
 }
 
-// A device measured through the forward twelve-term model comes back.
-TEST(Correct2PortTest, UndoesTheTwelveTermModel) {
-    TwoPort t(20, 200);
-    const Trace actual[4] = {random_points(20, 300), random_points(20, 301), random_points(20, 302),
-                             random_points(20, 303)};
-    for (int j = 0; j < t.n; ++j) {
-        LC s[4], m[4];
-        for (int p = 0; p < 4; ++p) s[p] = lc(actual[p], j);
-        two_port_measured(s, t.terms(j), m);
-        for (int p = 0; p < 4; ++p) {
-            t.a[12 + p][2 * j] = static_cast<double>(m[p].real());
-            t.a[12 + p][2 * j + 1] = static_cast<double>(m[p].imag());
-        }
-    }
-    ASSERT_EQ(t.run(0, t.n), t.n);
-    for (int j = 0; j < t.n; ++j)
-        for (int p = 0; p < 4; ++p) EXPECT_TRUE(close(lc(t.a[16 + p], j), lc(actual[p], j), 1e-12L, j)) << "S" << p;
-}
-
-TEST(Correct2PortTest, NullIsolationCountsAsZeroAndNullOutputIsSkipped) {
-    TwoPort zeroed(19, 400), nulled(19, 400);
+// Null isolation counts as zero and a null output is skipped; every other
+// array is required, and empty or reversed ranges write nothing.
+TEST(Correct2PortTest, ArrayAndRangeRules) {
+    TwoPort zeroed(19, 400), nulled(19, 400), t(10, 500);
     zeroed.a[9] = zeroed.a[10] = filled(19, 0);
     ASSERT_EQ(zeroed.run(0, 19), 19);
     ASSERT_EQ(nulled.run(0, 19, (1u << 9) | (1u << 10) | (1u << 17)), 19);
-    for (int p = 0; p < 4; ++p) {
-        if (p == 1) EXPECT_TRUE(untouched_outside(nulled.a[17], 0, 0));
-        else EXPECT_EQ(nulled.a[16 + p], zeroed.a[16 + p]) << "S" << p;
-    }
-}
-
-class Correct2PortNullTest : public ::testing::TestWithParam<int> {};
-TEST_P(Correct2PortNullTest, RequiredArrayMissingWritesNothing) {
-    TwoPort t(10, 500);
-    EXPECT_EQ(t.run(0, 10, 1u << GetParam()), 0);
-    for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], 0, 0));
-}
-// Everything but the two isolation arrays (9, 10) and the outputs (16..19).
-INSTANTIATE_TEST_SUITE_P(Required, Correct2PortNullTest,
-                         ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15));
-
-TEST(Correct2PortTest, EmptyAndNegativeRangesWriteNothing) {
-    TwoPort t(10, 600);
+    EXPECT_TRUE(untouched_outside(nulled.a[17], 0, 0));
+    for (int p : {0, 2, 3}) EXPECT_EQ(nulled.a[16 + p], zeroed.a[16 + p]) << "S" << p;
+    for (int missing : {0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15})
+        EXPECT_EQ(t.run(0, 10, 1u << missing), 0) << missing;
     EXPECT_EQ(t.run(5, 5), 0);
     EXPECT_EQ(t.run(7, 2), -5);
     EXPECT_EQ(t.run(-2, 3), 0);
-    for (int p = 0; p < 4; ++p) EXPECT_TRUE(untouched_outside(t.a[16 + p], 0, 0));
+    for (int p = 16; p < 20; ++p) EXPECT_TRUE(untouched_outside(t.a[p], 0, 0));
 }
 
 // With unit tracking, zero offsets and unit load and reverse source match,

@@ -78,15 +78,4 @@ inline void two_port_measured(const LC s[4], const TwelveTerms& e, LC m[4]) {
     m[1] = e.exr + e.etr * s[1] / dr;
 }
 
-// The corrected S-parameters in closed form from normalised readings.
-inline void two_port_corrected(const LC m[4], const TwelveTerms& e, LC s[4]) {
-    const LC n11 = (m[0] - e.edf) / e.erf, n12 = (m[1] - e.exr) / e.etr;
-    const LC n21 = (m[2] - e.exf) / e.etf, n22 = (m[3] - e.edr) / e.err;
-    const LC d = (LC(1) + n11 * e.esf) * (LC(1) + n22 * e.esr) - n21 * n12 * e.elf * e.elr;
-    s[0] = (n11 * (LC(1) + n22 * e.esr) - e.elf * n21 * n12) / d;
-    s[1] = n12 * (LC(1) + n11 * (e.esf - e.elr)) / d;
-    s[2] = n21 * (LC(1) + n22 * (e.esr - e.elf)) / d;
-    s[3] = (n22 * (LC(1) + n11 * e.esf) - e.elr * n21 * n12) / d;
-}
-
 }  // namespace zt
