@@ -4,6 +4,41 @@
 #include <cstring>
 
 namespace zf {
+namespace {
+
+// Storage from the standard allocator starts on a 64-byte boundary where the C
+// library offers aligned blocks that free() releases, so that vector kernels
+// (the FFT above all) never split their loads across cache lines. Every block
+// stays releasable with free(), as callers' hooks may expect.
+constexpr std::size_t kAlign = 64;
+
+void* aligned_block(std::size_t bytes) noexcept {
+#if defined(_WIN32)
+    return std::malloc(bytes);
+#else
+    void* p = nullptr;
+    return posix_memalign(&p, kAlign, bytes) == 0 ? p : nullptr;
+#endif
+}
+
+// realloc that keeps the alignment: a grown block that lands off the boundary
+// moves once more into an aligned one (growth is rare: storage never shrinks).
+void* grow_block(void* old, std::size_t old_bytes, std::size_t bytes) noexcept {
+    if (!old) return aligned_block(bytes);
+    void* p = std::realloc(old, bytes);
+#if !defined(_WIN32)
+    if (p && reinterpret_cast<std::uintptr_t>(p) % kAlign != 0) {
+        if (void* q = aligned_block(bytes)) {
+            std::memcpy(q, p, old_bytes < bytes ? old_bytes : bytes);
+            std::free(p);
+            p = q;
+        }
+    }
+#endif
+    return p;
+}
+
+}  // namespace
 
 template <class T> Hooks<T>& hooks() noexcept {
     static Hooks<T> slots{};  // plain function pointers: nothing to destroy
@@ -47,7 +82,7 @@ template <class T> int alloc(Vec<T>* v) noexcept {
         hooks<T>().alloc(v);
     } else {
         if (v->alloc > 0) std::free(v->data);  // contents are not kept
-        v->data = static_cast<T*>(std::malloc(static_cast<std::size_t>(n) * sizeof(T)));
+        v->data = static_cast<T*>(aligned_block(static_cast<std::size_t>(n) * sizeof(T)));
     }
     if (!v->data) {
         v->alloc = 0;
@@ -74,7 +109,8 @@ template <class T> int realloc(Vec<T>* v, int old_points, int old_complex) noexc
     if (hooks<T>().realloc) {
         hooks<T>().realloc(v, old_points, old_complex);
     } else {
-        v->data = static_cast<T*>(std::realloc(v->data, static_cast<std::size_t>(n) * sizeof(T)));
+        const std::size_t old_bytes = v->data ? static_cast<std::size_t>(v->alloc) * sizeof(T) : 0;
+        v->data = static_cast<T*>(grow_block(v->data, old_bytes, static_cast<std::size_t>(n) * sizeof(T)));
     }
     if (!v->data) {
         v->alloc = 0;
