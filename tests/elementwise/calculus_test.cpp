@@ -11,17 +11,22 @@ const long double kPi = 3.141592653589793238462643383279502884L;
 template <class T> class CalculusTest : public ::testing::Test {};
 TYPED_TEST_SUITE(CalculusTest, Precisions);
 
-TYPED_TEST(CalculusTest, DifferDividesFirstDifferenceByDelta) {
+// differ: first difference over delta; integ: running sum times delta.
+TYPED_TEST(CalculusTest, DifferAndIntegMatchReference) {
     using T = TypeParam;
-    for (bool complex : {false, true}) {
-        for (int n : {0, 1, 2, 2049}) {
-            const auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n);
-            Owned<T> v(s, complex, T(0.25));
-            ASSERT_EQ(api::differ(v.get()), 0);
-            const auto x = samples(s, complex);
-            std::vector<Cx> want;
-            for (int k = 0; k < n; ++k) want.push_back((x[k] - (k ? x[k - 1] : Cx(0))) * 4.0L);
-            EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), tol<T>(8))) << n;
+    for (bool integ : {false, true}) {
+        for (bool complex : {false, true}) {
+            for (int n : {0, 1, 2, 2049}) {
+                const auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n);
+                Owned<T> v(s, complex, T(0.25));
+                ASSERT_EQ(integ ? api::integ(v.get()) : api::differ(v.get()), 0);
+                const auto x = samples(s, complex);
+                std::vector<Cx> want;
+                Cx sum = 0;
+                for (int k = 0; k < n; ++k)
+                    want.push_back(integ ? (sum += x[k] * 0.25L) : (x[k] - (k ? x[k - 1] : Cx(0))) * 4.0L);
+                EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), tol<T>(integ ? n : 8))) << integ << " " << n;
+            }
         }
     }
     Owned<T> z({1, 3}, false, T(0));
@@ -44,21 +49,6 @@ TYPED_TEST(CalculusTest, PdifferDifferentiatesPolynomial) {
     EXPECT_EQ(none->points, 0);
 }
 
-TYPED_TEST(CalculusTest, IntegIsRunningSumTimesDelta) {
-    using T = TypeParam;
-    for (bool complex : {false, true}) {
-        const int n = 2049;
-        const auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), 9);
-        Owned<T> v(s, complex, T(0.5));
-        ASSERT_EQ(api::integ(v.get()), 0);
-        const auto x = samples(s, complex);
-        std::vector<Cx> want;
-        Cx sum = 0;
-        for (const Cx& z : x) want.push_back(sum += z * 0.5L);
-        EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), tol<T>(n)));
-    }
-}
-
 TYPED_TEST(CalculusTest, EdgeFindsInterpolatedCrossingTimes) {
     using T = TypeParam;
     const std::vector<T> s{0, 1, 0, 1};
@@ -76,22 +66,44 @@ TYPED_TEST(CalculusTest, EdgeFindsInterpolatedCrossingTimes) {
     ASSERT_EQ(api::edge(one.get(), 3, T(0)), 0);
     EXPECT_EQ(one->points, 0);
     EXPECT_EQ(one->delta, T(1));
-    Owned<T> c({1, 2}, true);
-    EXPECT_EQ(api::edge(c.get(), 1, T(0)), -1);
 }
 
+// Hand-worked unwraps; w < 0 is the plain unwrap. With w = 2 the third sample
+// is judged against (0 + 3) / 2; with w = 0 every reference is 0, so each
+// sample is merely wrapped into [-pi, pi].
 TYPED_TEST(CalculusTest, UnwrapExamples) {
     using T = TypeParam;
-    Owned<T> v({3, -3});
-    ASSERT_EQ(api::unwrap(v.get()), 0);
-    EXPECT_TRUE(near_all(v.scalars(), std::vector<long double>{3, 2 * kPi - 3}, tol<T>(4)));
-    Owned<T> first({4});
-    ASSERT_EQ(api::unwrap(first.get()), 0);
-    EXPECT_TRUE(near_all(first.scalars(), std::vector<long double>{4 - 2 * kPi}, tol<T>(4)));
-    Owned<T> c({1, 2}, true);
+    const long double p2 = 2 * kPi;
+    const std::tuple<int, std::vector<T>, std::vector<long double>, double> cases[] = {
+        {-1, {3, -3}, {3, p2 - 3}, 4}, {-1, {4}, {4 - p2}, 4}, {2, {0, 3, -3}, {0, 3, p2 - 3}, 4},
+        {0, {1, 4, -4, 7}, {1, 4 - p2, p2 - 4, 7 - p2}, 8}};
+    for (const auto& [w, in, want, ulps] : cases) {
+        Owned<T> v(in);
+        ASSERT_EQ(w < 0 ? api::unwrap(v.get()) : api::unwrap_wnd(v.get(), w), 0);
+        EXPECT_TRUE(near_all(v.scalars(), want, tol<T>(ulps))) << w;
+    }
+    // w = 3: each sample lies within pi of the mean of the (up to) three
+    // outputs before it, though not always of the previous output alone.
+    const std::vector<T> calm{T(0.5), 3, T(4.5), 0, T(-0.6)};
+    Owned<T> m(calm), plain(calm);
+    ASSERT_EQ(api::unwrap_wnd(m.get(), 3), 0);
+    EXPECT_EQ(m.scalars(), calm);
+    ASSERT_EQ(api::unwrap(plain.get()), 0);
+    EXPECT_NE(plain.scalars(), calm);
+    // w = 1 is the plain unwrap, bit for bit.
+    const auto s = random_scalars<T>(300, 4, -20, 20);
+    Owned<T> a(s), b(s);
+    ASSERT_EQ(api::unwrap_wnd(a.get(), 1), 0);
+    ASSERT_EQ(api::unwrap(b.get()), 0);
+    EXPECT_EQ(a.scalars(), b.scalars());
+}
+
+TYPED_TEST(CalculusTest, RefusesComplexInputAndNegativeWindow) {
+    using T = TypeParam;
+    Owned<T> c({1, 2}, true), r({1, 2});
+    EXPECT_EQ(api::edge(c.get(), 1, T(0)), -1);
     EXPECT_EQ(api::unwrap(c.get()), -1);
     EXPECT_EQ(api::unwrap_wnd(c.get(), 2), -1);
-    Owned<T> r({1, 2});
     EXPECT_EQ(api::unwrap_wnd(r.get(), -1), -1);
 }
 
@@ -115,33 +127,6 @@ TYPED_TEST(CalculusTest, UnwrapRestoresWrappedRamp) {
     Owned<T> v(wrapped);
     ASSERT_EQ(api::unwrap(v.get()), 0);
     EXPECT_TRUE(near_all(v.scalars(), ramp, tol<T>(n)));
-}
-
-TYPED_TEST(CalculusTest, UnwrapWindowedReferenceIsTheMeanOfTheWindow) {
-    using T = TypeParam;
-    // w = 2: the third sample is judged against (0 + 3) / 2.
-    Owned<T> v({0, 3, -3});
-    ASSERT_EQ(api::unwrap_wnd(v.get(), 2), 0);
-    EXPECT_TRUE(near_all(v.scalars(), std::vector<long double>{0, 3, 2 * kPi - 3}, tol<T>(4)));
-    // w = 3: each sample lies within pi of the mean of the (up to) three
-    // outputs before it, though not always of the previous output alone.
-    const std::vector<T> calm{T(0.5), 3, T(4.5), 0, T(-0.6)};
-    Owned<T> m(calm);
-    ASSERT_EQ(api::unwrap_wnd(m.get(), 3), 0);
-    EXPECT_EQ(m.scalars(), calm);
-    Owned<T> plain(calm);
-    ASSERT_EQ(api::unwrap(plain.get()), 0);
-    EXPECT_NE(plain.scalars(), calm);
-    // w = 1 is the plain unwrap, bit for bit.
-    const auto s = random_scalars<T>(300, 4, -20, 20);
-    Owned<T> a(s), b(s);
-    ASSERT_EQ(api::unwrap_wnd(a.get(), 1), 0);
-    ASSERT_EQ(api::unwrap(b.get()), 0);
-    EXPECT_EQ(a.scalars(), b.scalars());
-    // w = 0: every reference is 0, so each sample is merely wrapped into [-pi, pi].
-    Owned<T> z({1, 4, -4, 7});
-    ASSERT_EQ(api::unwrap_wnd(z.get(), 0), 0);
-    EXPECT_TRUE(near_all(z.scalars(), std::vector<long double>{1, 4 - 2 * kPi, 2 * kPi - 4, 7 - 2 * kPi}, tol<T>(8)));
 }
 
 // The windowed unwrap follows the documented arithmetic to the last bit: a

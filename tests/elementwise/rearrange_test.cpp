@@ -9,21 +9,51 @@ using namespace zt;
 
 namespace {
 
-const int kLengths[] = {0, 1, 2, 3, 5, 2047, 2048, 2049};
-
 template <class T> class RearrangeTest : public ::testing::Test {};
 TYPED_TEST_SUITE(RearrangeTest, Precisions);
 
-TYPED_TEST(RearrangeTest, ReverseMovesWholeSamples) {
+using Samples = std::vector<Cx>;
+template <class T> struct Permutation {
+    const char* name;
+    int (*run)(Vec<T>*);
+    Samples (*want)(Samples, bool complex);
+};
+
+// Each operation against a plain reordering of the samples. Swapping halves is
+// a rotation to the right by points/2, the second form the inverse rotation.
+// The shuffle is the forward swap walk with j = draw mod (points - i); with
+// the generator seeded alike, the reference walk gives the same permutation.
+// The sort sees few distinct values, so that ties in magnitude and real part occur.
+TYPED_TEST(RearrangeTest, MatchesReferenceOrder) {
     using T = TypeParam;
-    for (bool complex : {false, true}) {
-        for (int n : kLengths) {
-            const auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n + 1);
-            Owned<T> v(s, complex);
-            ASSERT_EQ(api::rev(v.get()), 0);
-            auto want = samples(s, complex);
-            std::reverse(want.begin(), want.end());
-            EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), 0)) << n << " " << complex;
+    const Permutation<T> cases[] = {
+        {"rev", api::rev, [](Samples x, bool) { std::reverse(x.begin(), x.end()); return x; }},
+        {"swap_halves", api::swap_halves, [](Samples x, bool) { return rotated_right(x, x.size() / 2); }},
+        {"swap_halves2", api::swap_halves2, [](Samples x, bool) { return rotated_right(x, (x.size() + 1) / 2); }},
+        {"sort", api::sort, [](Samples x, bool complex) {
+             const auto by_value = [](const Cx& a, const Cx& b) { return a.real() < b.real(); };
+             complex ? std::stable_sort(x.begin(), x.end(), sort_before) : std::stable_sort(x.begin(), x.end(), by_value);
+             return x;
+         }},
+        {"shuffle", api::shuffle, [](Samples x, bool) {
+             zf::random_seed(1234);
+             for (std::size_t i = 0; i + 1 < x.size(); ++i) std::swap(x[i], x[i + zf::random31() % (x.size() - i)]);
+             return x;
+         }},
+    };
+    for (const auto& c : cases) {
+        for (bool complex : {false, true}) {
+            for (int n : {0, 1, 2, 3, 4, 5, 9, 2047, 2048, 2049}) {
+                auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n + 11, -3, 3);
+                if (c.run == static_cast<int (*)(Vec<T>*)>(api::sort)) for (T& x : s) x = std::round(x);
+                Owned<T> v(s, complex, T(0.5));
+                zf::random_seed(1234);
+                ASSERT_EQ(c.run(v.get()), 0) << c.name;
+                const auto want = scalars_of(c.want(samples(s, complex), complex), complex);
+                EXPECT_TRUE(near_all(v.scalars(), want, 0)) << c.name << " " << n << " " << complex;
+                EXPECT_EQ(v->complex, complex ? 1 : 0);
+                EXPECT_EQ(v->delta, T(0.5));
+            }
         }
     }
 }
@@ -45,23 +75,6 @@ TYPED_TEST(RearrangeTest, ShiftDropsLeadingSamples) {
     }
 }
 
-// Swapping halves is a rotation to the right by points/2; the second form
-// undoes it for every length.
-TYPED_TEST(RearrangeTest, SwapHalvesRotatesAndSecondFormUndoesIt) {
-    using T = TypeParam;
-    for (bool complex : {false, true}) {
-        for (int n : {0, 1, 2, 3, 4, 5, 8, 9, 2049}) {
-            const auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n + 7);
-            Owned<T> v(s, complex);
-            ASSERT_EQ(api::swap_halves(v.get()), 0);
-            const auto want = rotated_right(samples(s, complex), static_cast<std::size_t>(n / 2));
-            EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), 0)) << n;
-            ASSERT_EQ(api::swap_halves2(v.get()), 0);
-            EXPECT_EQ(v.scalars(), s) << n;
-        }
-    }
-}
-
 TYPED_TEST(RearrangeTest, SwapHalvesOfFiveSamples) {
     using T = TypeParam;
     Owned<T> v({0, 1, 2, 3, 4});
@@ -71,39 +84,20 @@ TYPED_TEST(RearrangeTest, SwapHalvesOfFiveSamples) {
     EXPECT_EQ(v.scalars(), (std::vector<T>{0, 1, 2, 3, 4}));
 }
 
-TYPED_TEST(RearrangeTest, SortMatchesReferenceOrder) {
+// Magnitude ties go by real then imaginary part; a part beyond the saturation
+// value counts as magnitude huge, so it sorts before a sample whose true
+// squared magnitude (here 100 huge) exceeds huge.
+TYPED_TEST(RearrangeTest, SortExamples) {
     using T = TypeParam;
-    for (bool complex : {false, true}) {
-        for (int n : kLengths) {
-            // Few distinct values, so that ties in magnitude and in real part occur.
-            auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n + 11, -3, 3);
-            for (T& x : s) x = std::round(x);
-            Owned<T> v(s, complex);
-            ASSERT_EQ(api::sort(v.get()), 0);
-            auto want = samples(s, complex);
-            if (complex) std::stable_sort(want.begin(), want.end(), sort_before);
-            else std::stable_sort(want.begin(), want.end(), [](const Cx& a, const Cx& b) { return a.real() < b.real(); });
-            EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), 0)) << n << " " << complex;
-        }
+    const T huge = Traits<T>::huge, big = static_cast<T>(std::sqrt(static_cast<double>(huge)) * 10);
+    const std::pair<std::vector<T>, std::vector<T>> cases[] = {
+        {{0, 1, 1, 0, 0, -1, -1, 0, 0.5, 0}, {0.5, 0, -1, 0, 0, -1, 0, 1, 1, 0}},
+        {{big, 0, 2 * huge, 0, 1, 1}, {1, 1, 2 * huge, 0, big, 0}}};
+    for (const auto& [in, want] : cases) {
+        Owned<T> v(in, true);
+        ASSERT_EQ(api::sort(v.get()), 0);
+        EXPECT_EQ(v.scalars(), want);
     }
-}
-
-TYPED_TEST(RearrangeTest, SortBreaksMagnitudeTiesByRealThenImaginaryPart) {
-    using T = TypeParam;
-    Owned<T> v({0, 1, 1, 0, 0, -1, -1, 0, 0.5, 0}, true);
-    ASSERT_EQ(api::sort(v.get()), 0);
-    EXPECT_EQ(v.scalars(), (std::vector<T>{0.5, 0, -1, 0, 0, -1, 0, 1, 1, 0}));
-}
-
-// A part beyond the saturation value counts as magnitude huge, so it sorts
-// before a sample whose true squared magnitude exceeds huge.
-TYPED_TEST(RearrangeTest, SortClampsHugeParts) {
-    using T = TypeParam;
-    const T huge = Traits<T>::huge;
-    const T big = static_cast<T>(std::sqrt(static_cast<double>(huge)) * 10);  // |z|^2 = 100 huge
-    Owned<T> v({big, 0, 2 * huge, 0, 1, 1}, true);
-    ASSERT_EQ(api::sort(v.get()), 0);
-    EXPECT_EQ(v.scalars(), (std::vector<T>{1, 1, 2 * huge, 0, big, 0}));
 }
 
 TYPED_TEST(RearrangeTest, SortPutsNanLastWithoutHarm) {
@@ -120,46 +114,19 @@ TYPED_TEST(RearrangeTest, SortPutsNanLastWithoutHarm) {
     EXPECT_EQ(got.end() - first_nan, 29);
 }
 
-// The shuffle is the forward swap walk with j = draw mod (points - i); with the
-// generator seeded alike, a reference walk gives the same permutation.
-TYPED_TEST(RearrangeTest, ShuffleIsTheSeededSwapWalk) {
-    using T = TypeParam;
-    for (bool complex : {false, true}) {
-        for (int n : {0, 1, 2, 3, 2049}) {
-            const auto s = random_scalars<T>(static_cast<std::size_t>(n) * (complex ? 2 : 1), n + 2);
-            Owned<T> v(s, complex);
-            zf::random_seed(1234);
-            ASSERT_EQ(api::shuffle(v.get()), 0);
-            zf::random_seed(1234);
-            auto want = samples(s, complex);
-            for (int i = 0; i + 1 < n; ++i) {
-                const int j = zf::random31() % (n - i);
-                std::swap(want[i], want[i + j]);
-            }
-            EXPECT_TRUE(near_all(v.scalars(), scalars_of(want, complex), 0)) << n;
-            // And it is a permutation: the sorted samples are unchanged.
-            auto got = samples(v.scalars(), complex), had = samples(s, complex);
-            std::sort(got.begin(), got.end(), sort_before);
-            std::sort(had.begin(), had.end(), sort_before);
-            EXPECT_EQ(got, had);
-        }
-    }
-}
-
 TYPED_TEST(RearrangeTest, BadRecordsAreRefused) {
     using T = TypeParam;
-    Vec<T> bad;
-    api::init(&bad);
-    bad.points = -1;
-    EXPECT_EQ(api::rev(&bad), -1);
-    EXPECT_EQ(api::sort(&bad), -1);
-    EXPECT_EQ(api::shuffle(&bad), -1);
-    EXPECT_EQ(api::swap_halves(&bad), -1);
-    EXPECT_EQ(api::shift(&bad, 1), -1);
-    EXPECT_EQ(api::rev(static_cast<Vec<T>*>(nullptr)), -1);
-    bad.points = 3;  // samples but no data
-    EXPECT_EQ(api::sort(&bad), -1);
-    EXPECT_EQ(api::swap_halves2(&bad), -1);
+    Vec<T> negative, no_data;
+    api::init(&negative);
+    api::init(&no_data);
+    negative.points = -1;
+    no_data.points = 3;
+    for (auto f : {api::rev, api::sort, api::shuffle, api::swap_halves, api::swap_halves2,
+                   +[](Vec<T>* v) { return api::shift(v, 1); }}) {
+        EXPECT_EQ(f(&negative), -1);
+        EXPECT_EQ(f(&no_data), -1);
+        EXPECT_EQ(f(nullptr), -1);
+    }
 }
 
 TEST(RandomGenerator, CombinesThreeDrawsOfRand) {

@@ -135,4 +135,36 @@ template <class T> void check_all(const std::vector<Unary<T>>& cases) {
             for (bool complex : {false, true}) EXPECT_TRUE(check_unary<T>(c, n, complex, ++seed));
 }
 
+// Runs into(source, destination) with a separate destination (the source left
+// as it was), with the source record itself and with a second record wrapping
+// the source's block, each against the in-place operation.
+template <class T> void check_into(int (*into)(const Vec<T>*, Vec<T>*), int (*in_place)(Vec<T>*), unsigned seed) {
+    const int n = 1001;
+    for (bool complex : {false, true}) {
+        const auto in = random_scalars<T>(complex ? 2 * n : n, seed, -3, 3);
+        Owned<T> expected(in, complex, T(0.5)), src(in, complex, T(0.5)), dst, self(in, complex, T(0.5)),
+            owner(in, complex, T(0.5));
+        ASSERT_EQ(in_place(expected.get()), 0);
+        const auto want = expected.scalars();
+        dst.v.type = 9;
+        ASSERT_EQ(into(src.get(), dst.get()), 0);
+        EXPECT_EQ(src.scalars(), in);
+        EXPECT_EQ(src.v.complex, complex ? 1 : 0);
+        EXPECT_EQ(dst.v.points, n);
+        EXPECT_EQ(dst.v.complex, expected.v.complex);
+        EXPECT_EQ(dst.v.delta, T(0.5));
+        EXPECT_EQ(dst.v.type, 9);
+        EXPECT_EQ(dst.scalars(), want);
+        const int capacity = self.v.alloc;
+        ASSERT_EQ(into(self.get(), self.get()), 0);
+        EXPECT_EQ(self.v.alloc, capacity);
+        EXPECT_EQ(self.scalars(), want);
+        Vec<T> view = owner.v;
+        view.alloc = 0;
+        ASSERT_EQ(into(owner.get(), &view), 0);
+        EXPECT_EQ(std::vector<T>(view.data, view.data + want.size()), want);
+        if (view.data != owner.v.data) api::destroy(&view);
+    }
+}
+
 }  // namespace zt
