@@ -52,7 +52,7 @@ TYPED_TEST(BinaryTest, MatchesReferenceForEveryFormAndLength) {
             for (int n : {0, 1, 2, 3, 2047, 2048, 2049, 10000}) {
                 const auto sa = operand<T>(n, ca, n + 1), sb = operand<T>(n, cb, n + 2);
                 Owned<T> a(sa, ca, T(1)), b(sb, cb, T(2)), out;
-                ASSERT_EQ(all[i].run(a.get(), b.get(), out.get()), 0) << name_of(op);
+                ASSERT_EQ(all[i].run(a.get(), b.get(), out.get()), 0) << all[i].name;
                 EXPECT_EQ(out->points, n);
                 EXPECT_EQ(out->complex, (ca || cb) ? 1 : 0);
                 EXPECT_EQ(out->delta, T(1.5));
@@ -62,7 +62,7 @@ TYPED_TEST(BinaryTest, MatchesReferenceForEveryFormAndLength) {
                     want.push_back(binary_ref(op, xa[k], xb[k], ca || cb, kWeight, Traits<T>::huge));
                 // The complex quotient loses up to |a|/|b| eps to cancellation.
                 const double rel = op == BinOp::div ? tol<T>(64) : tol<T>(4);
-                EXPECT_TRUE(near_samples(out, want, rel)) << name_of(op) << " forms " << forms << " n " << n;
+                EXPECT_TRUE(near_samples(out, want, rel)) << all[i].name << " forms " << forms << " n " << n;
                 EXPECT_EQ(a.scalars(), sa);
                 EXPECT_EQ(b.scalars(), sb);
             }
@@ -123,7 +123,7 @@ TYPED_TEST(BinaryTest, AddAndSubZeroPadTheShorterOperand) {
             for (auto [na, nb] : {std::pair<int, int>{3, 5}, {5, 3}, {0, 4}}) {
                 const auto sa = operand<T>(na, ca, 1), sb = operand<T>(nb, cb, 2);
                 Owned<T> a(sa, ca), b(sb, cb), out, a1(sa, ca);
-                const auto run = ops<T>()[static_cast<int>(op)].run;
+                const auto [name, run] = ops<T>()[static_cast<int>(op)];
                 ASSERT_EQ(run(a.get(), b.get(), out.get()), 0);
                 auto xa = samples(sa, ca), xb = samples(sb, cb);
                 const std::size_t n = std::max(na, nb);
@@ -131,7 +131,7 @@ TYPED_TEST(BinaryTest, AddAndSubZeroPadTheShorterOperand) {
                 xb.resize(n);
                 std::vector<Cx> want;
                 for (std::size_t k = 0; k < n; ++k) want.push_back(binary_ref(op, xa[k], xb[k], ca || cb, 0, 0));
-                EXPECT_TRUE(near_samples(out, want, tol<T>())) << name_of(op) << " " << na << "+" << nb;
+                EXPECT_TRUE(near_samples(out, want, tol<T>())) << name << " " << na << "+" << nb;
                 ASSERT_EQ(run(a1.get(), b.get(), a1.get()), 0);
                 EXPECT_EQ(a1.scalars(), out.scalars());
             }

@@ -69,6 +69,13 @@ template <class T> struct Unary {
     double ulps = 8;         // tolerance in units of the precision's epsilon
 };
 
+// An operation defined for real input only (complex input is refused).
+template <class T>
+Unary<T> real_only(std::string name, int (*run)(Vec<T>*), std::function<ref::LD(ref::LD)> f, double lo, double hi,
+                   double ulps = 8) {
+    return Unary<T>{std::move(name), run, std::move(f), nullptr, nullptr, nullptr, lo, hi, ulps};
+}
+
 // Runs the operation on n random samples of the given form and compares the
 // result (values, form, points, capacity, delta, type) with the reference.
 template <class T>

@@ -54,10 +54,6 @@ template <class S> std::vector<S> rotated_right(const std::vector<S>& x, std::si
 
 // The sample-by-sample operations of the binary family.
 enum class BinOp { add, sub, mul, div, conj_mul, avg_add, min, max };
-inline const char* name_of(BinOp op) {
-    static const char* names[] = {"add", "sub", "mul", "div", "conj_mul", "avg_add", "min", "max"};
-    return names[static_cast<int>(op)];
-}
 
 // Squared magnitude as min and max judge it: a part beyond +-huge makes it huge.
 inline long double judged_norm(const Cx& z, long double huge) {
