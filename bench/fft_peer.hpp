@@ -66,42 +66,42 @@ template <> struct PeerComplex<float> {
 template <class T> struct PeerReal;
 template <> struct PeerReal<double> {
     double* in;
-    fftw_complex* spec;
+    fftw_complex* spectrum;
     fftw_plan fwd, bwd;
     int n;
     explicit PeerReal(int n_) : n(n_) {
         in = fftw_alloc_real(n);
-        spec = fftw_alloc_complex(n / 2 + 1);
-        fwd = fftw_plan_dft_r2c_1d(n, in, spec, FFTW_MEASURE);
-        bwd = fftw_plan_dft_c2r_1d(n, spec, in, FFTW_MEASURE);
+        spectrum = fftw_alloc_complex(n / 2 + 1);
+        fwd = fftw_plan_dft_r2c_1d(n, in, spectrum, FFTW_MEASURE);
+        bwd = fftw_plan_dft_c2r_1d(n, spectrum, in, FFTW_MEASURE);
         for (int i = 0; i < n; ++i) in[i] = (i % 7) * 0.1 - 0.3;
     }
-    ~PeerReal() { fftw_destroy_plan(fwd); fftw_destroy_plan(bwd); fftw_free(in); fftw_free(spec); }
+    ~PeerReal() { fftw_destroy_plan(fwd); fftw_destroy_plan(bwd); fftw_free(in); fftw_free(spectrum); }
     void round_trip() {
         fftw_execute(fwd);
         const double s = 1.0 / n;
-        double* d = &spec[0][0];
+        double* d = &spectrum[0][0];
         for (int i = 0; i < n + 2; ++i) d[i] *= s;
         fftw_execute(bwd);
     }
 };
 template <> struct PeerReal<float> {
     float* in;
-    fftwf_complex* spec;
+    fftwf_complex* spectrum;
     fftwf_plan fwd, bwd;
     int n;
     explicit PeerReal(int n_) : n(n_) {
         in = fftwf_alloc_real(n);
-        spec = fftwf_alloc_complex(n / 2 + 1);
-        fwd = fftwf_plan_dft_r2c_1d(n, in, spec, FFTW_MEASURE);
-        bwd = fftwf_plan_dft_c2r_1d(n, spec, in, FFTW_MEASURE);
+        spectrum = fftwf_alloc_complex(n / 2 + 1);
+        fwd = fftwf_plan_dft_r2c_1d(n, in, spectrum, FFTW_MEASURE);
+        bwd = fftwf_plan_dft_c2r_1d(n, spectrum, in, FFTW_MEASURE);
         for (int i = 0; i < n; ++i) in[i] = (i % 7) * 0.1f - 0.3f;
     }
-    ~PeerReal() { fftwf_destroy_plan(fwd); fftwf_destroy_plan(bwd); fftwf_free(in); fftwf_free(spec); }
+    ~PeerReal() { fftwf_destroy_plan(fwd); fftwf_destroy_plan(bwd); fftwf_free(in); fftwf_free(spectrum); }
     void round_trip() {
         fftwf_execute(fwd);
         const float s = 1.0f / n;
-        float* d = &spec[0][0];
+        float* d = &spectrum[0][0];
         for (int i = 0; i < n + 2; ++i) d[i] *= s;
         fftwf_execute(bwd);
     }
