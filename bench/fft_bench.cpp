@@ -10,6 +10,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -33,54 +34,35 @@ template <class T> struct Aligned {
     zf::Vec<T>* get() { return &v; }
 };
 
-template <class T> void BM_fft_round_trip(benchmark::State& state) {
+// Times one forward and inverse pair (complex: fft; real: rfft then irfft) and,
+// when FFTW is present, its round trip of the same kind and length.
+template <class T, bool Complex> void round_trip(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
-    Aligned<T> v(n, true);
-    zf::fft<T>(v.get(), 0);   // tables built, storage touched
-    zf::fft<T>(v.get(), 1);
-#ifdef ZF_HAVE_FFTW
-    auto peer = std::make_unique<zb::PeerComplex<T>>(n);
-#else
-    std::unique_ptr<int> peer;
-    struct None { void round_trip() {} };
-    None* none = nullptr;
-#endif
-    auto body = [&] {
-        zf::fft<T>(v.get(), 0);
-        zf::fft<T>(v.get(), 1);
+    Aligned<T> v(n, Complex);
+    auto pair = [&] {
+        if constexpr (Complex) {
+            zf::fft<T>(v.get(), 0);
+            zf::fft<T>(v.get(), 1);
+        } else {
+            zf::rfft<T>(v.get());
+            zf::irfft<T>(v.get());
+        }
         benchmark::ClobberMemory();
     };
+    pair();   // tables built, storage touched
 #ifdef ZF_HAVE_FFTW
-    zb::timed_against(state, body, peer.get());
+    using Peer = std::conditional_t<Complex, zb::PeerComplex<T>, zb::PeerReal<T>>;
+    auto peer = std::make_unique<Peer>(n);
+    zb::timed_against(state, pair, peer.get());
 #else
-    zb::timed_against(state, body, none);
+    struct None { void round_trip() {} };
+    zb::timed_against(state, pair, static_cast<None*>(nullptr));
 #endif
     state.SetItemsProcessed(state.iterations() * n);
 }
 
-template <class T> void BM_rfft_round_trip(benchmark::State& state) {
-    const int n = static_cast<int>(state.range(0));
-    Aligned<T> v(n, false);
-    zf::rfft<T>(v.get());
-    zf::irfft<T>(v.get());
-#ifdef ZF_HAVE_FFTW
-    auto peer = std::make_unique<zb::PeerReal<T>>(n);
-#else
-    struct None { void round_trip() {} };
-    None* none = nullptr;
-#endif
-    auto body = [&] {
-        zf::rfft<T>(v.get());
-        zf::irfft<T>(v.get());
-        benchmark::ClobberMemory();
-    };
-#ifdef ZF_HAVE_FFTW
-    zb::timed_against(state, body, peer.get());
-#else
-    zb::timed_against(state, body, none);
-#endif
-    state.SetItemsProcessed(state.iterations() * n);
-}
+template <class T> void BM_fft_round_trip(benchmark::State& state) { round_trip<T, true>(state); }
+template <class T> void BM_rfft_round_trip(benchmark::State& state) { round_trip<T, false>(state); }
 
 BENCHMARK_TEMPLATE(BM_fft_round_trip, double)->RangeMultiplier(2)->Range(1 << 6, 1 << 20);
 BENCHMARK_TEMPLATE(BM_fft_round_trip, float)->RangeMultiplier(2)->Range(1 << 6, 1 << 20);
