@@ -115,6 +115,10 @@ ZF_API int ZF_CDECL vfpd_SmoothCpx(const double *src, double *dst, int total, in
 ZF_API int ZF_CDECL vfps_SmoothCpx(const float *src, float *dst, int total, int start, int stop, int aperture);
 
 /* ------------------------------------------------------------------------ */
+/* Circle fit                                                               */
+/* ------------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------------ */
 /* Complex matrix kernels                                                    */
 /* ------------------------------------------------------------------------ */
 
@@ -189,6 +193,10 @@ ZF_API void ZF_CDECL GetPerfData(long long *frequency, long long *t1, long long 
  * r1 .. r6; returns 6, the number of records. */
 ZF_API int ZF_CDECL GetPerfData2(long long *frequency, long long *r1, long long *r2, long long *r3,
                                  long long *r4, long long *r5, long long *r6);
+
+/* ------------------------------------------------------------------------ */
+/* Circular interpolation                                                   */
+/* ------------------------------------------------------------------------ */
 
 #ifdef __cplusplus
 }
