@@ -598,31 +598,31 @@ ZF_API int ZF_CALL dspi_analytic (dsp_vector  *v);
 ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 
 /* ------------------------------------------------------------------------ */
-/* Handle-based spectra, averaging and correlation                          */
+/* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
-/* Window catalogue and generation                                          */
+/* Window catalogue and generation                                           */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
-/* Window scaling and noise bandwidth                                       */
+/* Window scaling and noise bandwidth                                        */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
-/* FIR design and filtering                                                 */
+/* FIR design and filtering                                                  */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
-/* Decimation and resampling                                                */
+/* Decimation and resampling                                                 */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
-/* Signal generators                                                        */
+/* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
-/* Interpolation and splines                                                */
+/* Interpolation and splines                                                 */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
@@ -679,7 +679,7 @@ ZF_API int ZF_CALL dsps_hmean (const dsp_vector  *in, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
 
 /* ------------------------------------------------------------------------ */
-/* Histogram, peak search, polynomials and regression                       */
+/* Histogram, peak search, polynomials and regression                        */
 /* ------------------------------------------------------------------------ */
 
 #ifdef __cplusplus

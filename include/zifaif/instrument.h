@@ -115,7 +115,7 @@ ZF_API int ZF_CDECL vfpd_SmoothCpx(const double *src, double *dst, int total, in
 ZF_API int ZF_CDECL vfps_SmoothCpx(const float *src, float *dst, int total, int start, int stop, int aperture);
 
 /* ------------------------------------------------------------------------ */
-/* Circle fit                                                               */
+/* Circle fit                                                                */
 /* ------------------------------------------------------------------------ */
 
 /* ------------------------------------------------------------------------ */
@@ -195,7 +195,7 @@ ZF_API int ZF_CDECL GetPerfData2(long long *frequency, long long *r1, long long 
                                  long long *r4, long long *r5, long long *r6);
 
 /* ------------------------------------------------------------------------ */
-/* Circular interpolation                                                   */
+/* Circular interpolation                                                    */
 /* ------------------------------------------------------------------------ */
 
 #ifdef __cplusplus
