@@ -621,6 +621,32 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
 
+/** The generators size the record for its preset points (dsp_alloc) and use its
+ * delta: freq in cycles per unit of delta, w = 2 pi delta freq. Sinusoids are
+ * seeded with an exact cosine and sine every 256 samples and advanced by
+ * rotation in between. Noise draws on the library's one rand() source, seeded
+ * once per process from the clock; sequences do not repeat between runs. */
+/** cos(w n + phase); a complex record keeps its kind with imaginary parts 0. 0 or -1. */
+ZF_API int ZF_CALL dspc_cos (dsp_vector  *v, double freq, double phase);
+ZF_API int ZF_CALL dspfc_cos(dspf_vector *v, float  freq, float  phase);
+/** cos(w n + phase) + j sin(w n + phase) on a complex record; dspc_cos on a real one. 0 or -1. */
+ZF_API int ZF_CALL dspc_cexp (dsp_vector  *v, double freq, double phase);
+ZF_API int ZF_CALL dspfc_cexp(dspf_vector *v, float  freq, float  phase);
+/** offset + n (delta slope) by repeated addition of the step; complex: imaginary parts 0. 0 or -1. */
+ZF_API int ZF_CALL dspc_line (dsp_vector  *v, double slope, double offset);
+ZF_API int ZF_CALL dspfc_line(dspf_vector *v, float  slope, float  offset);
+/** Noise. kind 0: uniform in [-1, 1) (complex: uniform in the unit disc); 1: Gaussian
+ * of variance 1 (complex: 1 per part); 2: exponential of mean 1; 3: Laplace (the
+ * exponential with a random sign). -1 for another kind, and for kinds 2 and 3 on a
+ * complex record. */
+ZF_API int ZF_CALL dspc_rand (dsp_vector  *v, int kind);
+ZF_API int ZF_CALL dspfc_rand(dspf_vector *v, int kind);
+/** Adds amp cos(w n + phase) to the samples (complex: the real parts) and, with bit 0
+ * of flags on a complex record, amp sin(w n + phase) to the imaginary parts; size
+ * and kind unchanged. 0 or -1. */
+ZF_API int ZF_CALL dspi_addcos (dsp_vector  *v, int flags, double amp, double freq, double phase);
+ZF_API int ZF_CALL dspfi_addcos(dspf_vector *v, int flags, float  amp, float  freq, float  phase);
+
 /* ------------------------------------------------------------------------ */
 /* Interpolation and splines                                                 */
 /* ------------------------------------------------------------------------ */
