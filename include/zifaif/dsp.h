@@ -617,6 +617,39 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Decimation and resampling                                                 */
 /* ------------------------------------------------------------------------ */
 
+/** Ratios are output spacing over input spacing (above 1: fewer samples); an
+ * output's delta is the input's times the ratio. A history (state) vector may
+ * be null, and is otherwise made like the input (delta, kind, length) on each
+ * call; one that shares storage with the input or output is refused (-1). */
+
+/** Keeps every factor-th sample (factor < 1 taken as 1), starting at the
+ * phase's rounded first sample (0 without phase); the phase becomes the index
+ * of the next sample to keep in the next block; delta times factor. */
+ZF_API int ZF_CALL dspd_deci (const dsp_vector  *in, dsp_vector  *out, int factor, dsp_vector  *phase);
+ZF_API int ZF_CALL dspfd_deci(const dspf_vector *in, dspf_vector *out, int factor, dspf_vector *phase);
+/** Kernel table of kernel->points samples from stored series which (0-4, else
+ * -1): element 0 the kernel length K, then one period of the kernel. */
+ZF_API int ZF_CALL dspc_rsmp (dsp_vector  *kernel, int which);
+ZF_API int ZF_CALL dspfc_rsmp(dspf_vector *kernel, int which);
+/** Kernel table of w(theta) = sum a_k cos(k theta) from series [K, a_0, a_1, ...];
+ * -1 for an odd points or a complex series. */
+ZF_API int ZF_CALL dspc_rsmp_cos (dsp_vector  *kernel, const dsp_vector  *series);
+ZF_API int ZF_CALL dspfc_rsmp_cos(dspf_vector *kernel, const dspf_vector *series);
+/** As dspc_rsmp_cos with w(theta) = sum a_k cos(theta)^k. */
+ZF_API int ZF_CALL dspc_rsmp_pcos (dsp_vector  *kernel, const dsp_vector  *series);
+ZF_API int ZF_CALL dspfc_rsmp_pcos(dspf_vector *kernel, const dspf_vector *series);
+/** Resamples by the kernel table (mode 0 nearest entry, real input only; 1
+ * linear interpolation); out->points on entry is the most samples produced,
+ * on return the count produced. History: K samples, the position (> -1) and
+ * the count of this block's samples it accounts for. -1 for a negative or
+ * non-finite ratio, a complex kernel, K < 1, a table of no whole number of
+ * entries per input sample, a bad position or mode. */
+ZF_API int ZF_CALL dspd_rsmp (const dsp_vector  *in, dsp_vector  *out, int mode, const dsp_vector  *kernel, double ratio, dsp_vector  *history);
+ZF_API int ZF_CALL dspfd_rsmp(const dspf_vector *in, dspf_vector *out, int mode, const dspf_vector *kernel, float  ratio, dspf_vector *history);
+/** dspd_rsmp with a kernel built by dspc_rsmp for which. */
+ZF_API int ZF_CALL dspd_rsmp2 (const dsp_vector  *in, dsp_vector  *out, int mode, int which, double ratio, dsp_vector  *history);
+ZF_API int ZF_CALL dspfd_rsmp2(const dspf_vector *in, dspf_vector *out, int mode, int which, float  ratio, dspf_vector *history);
+
 /* ------------------------------------------------------------------------ */
 /* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
