@@ -8,26 +8,14 @@
 #include "support/vectors.hpp"
 
 namespace api {
-inline int window2(dsp_vector* v, int k, int f, double w) { return dspi_window2(v, k, f, w); }
-inline int window2(dspf_vector* v, int k, int f, float w) { return dspfi_window2(v, k, f, w); }
-inline int window(dsp_vector* v, int k, int f) { return dspi_window(v, k, f); }
-inline int window(dspf_vector* v, int k, int f) { return dspfi_window(v, k, f); }
-inline int window_cos(dsp_vector* v, const dsp_vector* c) { return dspi_window_cos(v, c); }
-inline int window_cos(dspf_vector* v, const dspf_vector* c) { return dspfi_window_cos(v, c); }
-inline int window_fir(dsp_vector* v, int k, double p) { return dspi_window_fir(v, k, p); }
-inline int window_fir(dspf_vector* v, int k, float p) { return dspfi_window_fir(v, k, p); }
-inline int window_shape(dsp_vector* v, char s, double a, double b, int f) {
-    return s == 'k' ? dspi_window_kaiser(v, a, f) : s == 'g' ? dspi_window_gauss(v, a, f)
-         : s == 's' ? dspi_window_sinc(v, a, b, f) : dspi_window_tukey(v, a, f);
+// The entry point of the precision T among its twins.
+template <class T, class D, class F> auto pick(D d, F f) {
+    if constexpr (sizeof(T) == 8) return d; else return f;
 }
-inline int window_shape(dspf_vector* v, char s, float a, float b, int f) {
-    return s == 'k' ? dspfi_window_kaiser(v, a, f) : s == 'g' ? dspfi_window_gauss(v, a, f)
-         : s == 's' ? dspfi_window_sinc(v, a, b, f) : dspfi_window_tukey(v, a, f);
+template <class T> int window_shape(zf::Vec<T>* v, char s, T a, T b, int f) {
+    return s == 'k' ? pick<T>(dspi_window_kaiser, dspfi_window_kaiser)(v, a, f) : s == 'g' ? pick<T>(dspi_window_gauss, dspfi_window_gauss)(v, a, f)
+         : s == 's' ? pick<T>(dspi_window_sinc, dspfi_window_sinc)(v, a, b, f) : pick<T>(dspi_window_tukey, dspfi_window_tukey)(v, a, f);
 }
-inline int window2_scale(double* r, int k, int f, int n, double w) { return dsp_window2_scale(r, k, f, n, w); }
-inline int window2_scale(float* r, int k, int f, int n, float w) { return dspf_window2_scale(r, k, f, n, w); }
-inline int window2_enbw(double* r, int k, int n, double w) { return w ? dsp_window2_enbw(r, k, n, w) : dsp_window_enbw(r, k, n); }
-inline int window2_enbw(float* r, int k, int n, float w) { return w ? dspf_window2_enbw(r, k, n, w) : dspf_window_enbw(r, k, n); }
 }  // namespace api
 
 namespace ref {
@@ -41,11 +29,8 @@ inline LD i0(LD x) {   // power series of I0
 
 // A shape: 'u' uniform, 't' triangle, 'c' cosine sum (classical peak-1 row a),
 // 'k' Kaiser (beta), 'g' Gaussian (sigma), 's' sinc (span, power), 'y' Tukey (taper).
-struct Shape {
-    char type;
-    LD p1 = 0, p2 = 0;
-    std::vector<LD> a = {};
-    LD mean_a0 = 1;   // mean of the mean-normalised flat tops
+struct Shape {   // mean_a0: mean of the mean-normalised window (below 1 for the flat tops)
+    char type; LD p1 = 0, p2 = 0; std::vector<LD> a = {}; LD mean_a0 = 1;
 };
 
 inline std::vector<Shape> catalogue() {
@@ -89,18 +74,11 @@ inline std::vector<LD> window(const Shape& s, int N, int flags, LD width = 0) {
         else if (s.type == 's') x = d == 0 ? 1 : std::pow(std::sin(2 * s.p1 * d / L) / (2 * s.p1 * d / L), s.p2);
         else x = d <= (1 - s.p1) * L / 2 ? 1 : (1 + std::cos(pi * (d - (1 - s.p1) * L / 2) / (s.p1 * L / 2))) / 2;
     }
-    LD sum = 0, sq = 0;
+    LD sum = 0, sq = 0, nn = LD(N) * N;
     for (LD x : w) sum += x, sq += x * x;
-    LD f = 1;
     const int norm = flags & 3;
-    if (s.type == 't') {
-        const LD nn = LD(N) * N;
-        f = norm == 0 ? (N % 2 ? 2 * nn / (1 + nn) : 2) : norm == 1 ? std::sqrt(3 * nn / (2 + nn)) : 1;
-    } else if (norm == 0 && sum != 0) {
-        f = s.mean_a0 * N / sum;
-    } else if (norm == 1 && sq != 0) {
-        f = std::sqrt(N / sq);
-    }
+    const LD f = s.type == 't' ? (norm == 0 ? (N % 2 ? 2 * nn / (1 + nn) : 2) : norm == 1 ? std::sqrt(3 * nn / (2 + nn)) : 1)
+               : norm == 0 && sum != 0 ? s.mean_a0 * N / sum : norm == 1 && sq != 0 ? std::sqrt(N / sq) : 1;
     for (LD& x : w) x *= f;
     return w;
 }
