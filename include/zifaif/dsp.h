@@ -601,6 +601,28 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
+/** One step of averaging: acc folds in the record in as record number count of a
+ * run. Flag 32 first replaces the input by its magnitude squared (in scratch, or
+ * a temporary when scratch is null or is one of the other records). count <= 1:
+ * acc becomes a copy. Else by mode = flags & 15: 0 copy, 1 weighted mean
+ * acc + w (in - acc), 2 maximum, 3 minimum, 4 harmonic and 5 geometric weighted
+ * mean, 6 copy when n == 1 or n > 0 and count mod n == 1, 7 .. 15 nothing.
+ * w = weight when >= 0, else 1/count, or with flag 16 1/limit once
+ * 0 < limit <= count. 0 or -1 (modes 4 and 5 run every step, -1 if any failed). */
+ZF_API int ZF_CALL dsph_avg (const dsp_vector  *in, dsp_vector  *acc, dsp_vector  *scratch, int flags, int count, int n, double weight, double limit);
+ZF_API int ZF_CALL dspfh_avg(const dspf_vector *in, dspf_vector *acc, dspf_vector *scratch, int flags, int count, int n, float  weight, float  limit);
+/** Correlation out[k] = (1/M) sum_{j < length} conj(a[j]) b[j + k] for
+ * k = 0 .. b points - length, halved when half is nonzero, through transforms of
+ * M points (the power of two >= b points); delta the mean of a's and b's.
+ * Mixed inputs: a real input with a complex one counts as complex with imaginary
+ * parts 0 and the result is complex. scratch receives b's transform (a temporary
+ * when null or when it is a or out). -1 when length < 1 or exceeds a or b. */
+ZF_API int ZF_CALL dsph_corr (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, dsp_vector  *scratch, int length, int half);
+ZF_API int ZF_CALL dspfh_corr(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, dspf_vector *scratch, int length, int half);
+/** dsph_corr with a temporary scratch record. */
+ZF_API int ZF_CALL dspb_corr (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, int length, int half);
+ZF_API int ZF_CALL dspfb_corr(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, int length, int half);
+
 /* ------------------------------------------------------------------------ */
 /* Window catalogue and generation                                           */
 /* ------------------------------------------------------------------------ */
