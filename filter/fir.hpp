@@ -69,6 +69,8 @@ template <class T> struct Signal {
     // Samples first .. first + count - 1 into dst: the history below 0, zeros
     // before it and past the end of the block.
     void gather(T* dst, int first, int count) const noexcept;
+    // Asks the processor to start loading samples first .. first + count - 1.
+    void prefetch(int first, int count) const noexcept;
 };
 
 // Direct-sum kernel on a real response (fir_kernels*.cpp): for i in [0, n),

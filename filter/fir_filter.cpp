@@ -54,6 +54,16 @@ template <class T> const T* coefficient_spectrum(const Vec<T>& h, int p) noexcep
     return c.spectrum.data;
 }
 
+// z[k] *= h[k] for n interleaved complex values (storage apart, so that the
+// loop vectorises).
+template <class T> void multiply(T* __restrict z, const T* __restrict h, int n) {
+    for (int k = 0; k < n; ++k) {
+        const T zr = z[2 * k], zi = z[2 * k + 1], hr = h[2 * k], hi = h[2 * k + 1];
+        z[2 * k] = zr * hr - zi * hi;
+        z[2 * k + 1] = zr * hi + zi * hr;
+    }
+}
+
 int next_pow2(long long n) {
     int p = 1;
     while (p < n) p *= 2;
@@ -84,15 +94,10 @@ template <class T> int fft_filter(const Signal<T>& x, const Vec<T>& h, T* y) noe
         b.complex = x.width == 2;
         if (alloc<T>(&b) != 0) return -1;
         x.gather(b.data, n0 - (m - 1), p);
+        x.prefetch(n0 + step, step);   // the next block's new samples load while this one transforms
         if (w == 1) {
             if (rfft<T>(&b) != 0) return -1;
-            T* z = b.data;
-            for (int k = 0; k <= p / 2; ++k) {
-                const T re = z[2 * k] * hs[2 * k] - z[2 * k + 1] * hs[2 * k + 1];
-                const T im = z[2 * k] * hs[2 * k + 1] + z[2 * k + 1] * hs[2 * k];
-                z[2 * k] = re;
-                z[2 * k + 1] = im;
-            }
+            multiply<T>(b.data, hs, p / 2 + 1);
             if (irfft<T>(&b) != 0) return -1;
         } else {
             if (fft<T>(&b, 0) != 0) return -1;
@@ -182,6 +187,12 @@ template <class T> void Signal<T>::gather(T* dst, int first, int count) const no
         out += avail;
     }
     if (out < count) std::memset(dst + sw * out, 0, sw * static_cast<std::size_t>(count - out) * sizeof(T));
+}
+
+template <class T> void Signal<T>::prefetch(int first, int count) const noexcept {
+    const int end = first + count < n ? first + count : n;
+    const int line = 64 / static_cast<int>(sizeof(T));
+    for (int k = (first > 0 ? first : 0) * width; k < end * width; k += line) __builtin_prefetch(data + k);
 }
 
 template <class T> void update_history(Vec<T>* hist, const T* x, int n) noexcept {
