@@ -723,6 +723,43 @@ ZF_API int ZF_CALL dspf_window2_enbw(float  *result, int kind, int points, float
 /* FIR design and filtering                                                  */
 /* ------------------------------------------------------------------------ */
 
+/** FIR design: points = M taps of kind 0-10 (DSP_FIR_*; frequencies in cycles
+ * per sample); a vector complex on entry gets complex taps with zero imaginary
+ * parts. -1 for an unknown kind, kinds 1 and 2 with even M, or a failed
+ * allocation. */
+ZF_API int ZF_CALL dspc_fir (dsp_vector  *fir, int kind, double f1, double f2);
+ZF_API int ZF_CALL dspfc_fir(dspf_vector *fir, int kind, float  f1, float  f2);
+/** Fixed half responses for dspd_sfir with odd = 1: which 100 (12 values), 101
+ * (20: a 39-tap lowpass, gain 1 to 0.2 and at most 0.00034 from 0.3 cycles
+ * per sample on), 102 (5); -1 for any other which. */
+ZF_API int ZF_CALL dspc_fir2 (dsp_vector  *fir, int which);
+ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
+/** Causal FIR filtering y[n] = sum h[k] x[n-k], output as long as the input
+ * (complex when the input or h is); state (or null for zeros) carries the
+ * last M-1 inputs, oldest first, so blocks join without a seam. Long real
+ * responses run by overlap-save FFT convolution with a cached coefficient
+ * transform keyed on the values and the transform length, which depends on
+ * M only, so streamed blocks equal one whole call up to rounding. M <= 0:
+ * the output is a copy. out may be in; -1 when in or out shares storage with
+ * state or out with h. */
+ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_fir(const dspf_vector *in, dspf_vector *out, const dspf_vector *h, dspf_vector *state);
+/** dspd_fir with the response expanded from half: 2H taps, or 2H-1 with odd
+ * (the last half sample is the shared centre), the mirrored taps negated with
+ * negate; with odd and negate the centre tap keeps its sign ([1, 2] gives
+ * [1, 2, -1]). H <= 0: the output is a copy. */
+ZF_API int ZF_CALL dspd_sfir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *half, int odd, int negate, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_sfir(const dspf_vector *in, dspf_vector *out, const dspf_vector *half, int odd, int negate, dspf_vector *state);
+/** Hardware-filter model, kind 0 only (else -1): four sections
+ * (0.25 + 0.5z^-1 + 0.5z^-2 + 0.25z^-3)/(1 + 0.5z^-2); state holds the 12
+ * cells, null uses the library's default history, which persists between
+ * calls. out may be in; -1 when in or out shares storage with the history. */
+ZF_API int ZF_CALL dspd_hwfilt (const dsp_vector  *in, dsp_vector  *out, int kind, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_hwfilt(const dspf_vector *in, dspf_vector *out, int kind, dspf_vector *state);
+/** dspd_hwfilt(v, v, kind, null): in place, continuing the default history. */
+ZF_API int ZF_CALL dspi_hwfilt (dsp_vector  *v, int kind);
+ZF_API int ZF_CALL dspfi_hwfilt(dspf_vector *v, int kind);
+
 /* ------------------------------------------------------------------------ */
 /* Decimation and resampling                                                 */
 /* ------------------------------------------------------------------------ */
