@@ -1,5 +1,6 @@
 #include "support/api_binary.hpp"
 #include "support/binary_ref.hpp"
+#include "support/records.hpp"
 #include "support/vectors.hpp"
 
 using namespace zt;
@@ -104,10 +105,7 @@ TYPED_TEST(BinaryTest, BorrowedOperandAsOutputLeavesCallerArrayAlone) {
     using T = TypeParam;
     std::vector<T> mine{1, 2, 3, 4};
     Owned<T> b({1, 1, 1, 1}), sep;
-    Vec<T> a;
-    api::init(&a);
-    a.data = mine.data();
-    a.points = 4;
+    Vec<T> a = borrow(mine.data(), 4);
     ASSERT_EQ(api::add(&a, b.get(), sep.get()), 0);
     ASSERT_EQ(api::add(&a, b.get(), &a), 0);
     EXPECT_EQ(std::vector<T>(a.data, a.data + 4), sep.scalars());
@@ -144,16 +142,12 @@ TYPED_TEST(BinaryTest, AddAndSubZeroPadTheShorterOperand) {
 TYPED_TEST(BinaryTest, RefusesBadOperands) {
     using T = TypeParam;
     Owned<T> a({1, 2, 3}), b({1, 2, 3, 4, 5}), out({9, 8}, true, T(7)), good({1, 2});
-    Vec<T> bad;
-    api::init(&bad);
-    bad.points = 2;  // samples but no data
+    Vec<T> bad = borrow<T>(nullptr, 2);  // samples but no data
     for (const auto& op : ops<T>()) {
         const std::string name = op.name;
         if (name != "add" && name != "sub" && name != "pmul") {
             EXPECT_EQ(op.run(a.get(), b.get(), out.get()), -1) << name;
-            EXPECT_EQ(out.scalars(), (std::vector<T>{9, 8}));
-            EXPECT_EQ(out->complex, 1);
-            EXPECT_EQ(out->delta, T(7));
+            EXPECT_EQ(std::tuple(out.scalars(), out->complex, out->delta), std::tuple(std::vector<T>{9, 8}, 1, T(7)));
         }
         EXPECT_EQ(op.run(&bad, good.get(), out.get()), -1) << name;
         EXPECT_EQ(op.run(good.get(), &bad, out.get()), -1) << name;
