@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/unary.hpp"
 
 namespace zf {
@@ -52,9 +53,11 @@ template <class T> int ptor(Vec<T>* v) noexcept {
     if (!readable<T>(v)) return -1;
     if (!v->complex) return 0;
     map_pairs(v->data, v->data, static_cast<std::size_t>(v->points), [](T& re, T& im) {
-        const T m = re, phi = im;
-        re = m * std::cos(phi);
-        im = m * std::sin(phi);
+        const T m = re;
+        T s, c;
+        libm::sincos(im, &s, &c);
+        re = m * c;
+        im = m * s;
     });
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/unary.hpp"
 
 namespace zf {
@@ -58,8 +59,10 @@ template <class T> int exp(Vec<T>* v) noexcept {
     if (v->complex) {
         map_pairs(d, d, static_cast<std::size_t>(v->points), [](T& re, T& im) {
             const T m = guarded_exp(re);
-            re = m * std::cos(im);
-            im = m * std::sin(im);
+            T s, c;
+            libm::sincos(im, &s, &c);
+            re = m * c;
+            im = m * s;
         });
     } else {
         map_scalars(d, d, scalars<T>(*v), [](T x) { return guarded_exp(x); });
@@ -78,9 +81,10 @@ template <class T> int exp10(Vec<T>* v) noexcept {
     if (v->complex) {
         map_pairs(d, d, static_cast<std::size_t>(v->points), [=](T& re, T& im) {
             const T m = re > limit ? huge : (re < -huge ? -huge : std::exp(re * ln10));
-            const T phi = im * ln10;
-            re = m * std::cos(phi);
-            im = m * std::sin(phi);
+            T s, c;
+            libm::sincos(im * ln10, &s, &c);
+            re = m * c;
+            im = m * s;
         });
     } else {
         const std::size_t n = scalars<T>(*v);

@@ -654,13 +654,110 @@ ZF_API int ZF_CALL dspfi_hwfilt(dspf_vector *v, int kind);
 /* Decimation and resampling                                                 */
 /* ------------------------------------------------------------------------ */
 
+/** Ratios are output spacing over input spacing (above 1: fewer samples); an
+ * output's delta is the input's times the ratio. A history (state) vector may
+ * be null, and is otherwise made like the input (delta, kind, length) on each
+ * call; one that shares storage with the input or output is refused (-1). */
+
+/** Keeps every factor-th sample (factor < 1 taken as 1), starting at the
+ * phase's rounded first sample (0 without phase); the phase becomes the index
+ * of the next sample to keep in the next block; delta times factor. */
+ZF_API int ZF_CALL dspd_deci (const dsp_vector  *in, dsp_vector  *out, int factor, dsp_vector  *phase);
+ZF_API int ZF_CALL dspfd_deci(const dspf_vector *in, dspf_vector *out, int factor, dspf_vector *phase);
+/** Kernel table of kernel->points samples from stored series which (0-4, else
+ * -1): element 0 the kernel length K, then one period of the kernel. */
+ZF_API int ZF_CALL dspc_rsmp (dsp_vector  *kernel, int which);
+ZF_API int ZF_CALL dspfc_rsmp(dspf_vector *kernel, int which);
+/** Kernel table of w(theta) = sum a_k cos(k theta) from series [K, a_0, a_1, ...];
+ * -1 for an odd points or a complex series. */
+ZF_API int ZF_CALL dspc_rsmp_cos (dsp_vector  *kernel, const dsp_vector  *series);
+ZF_API int ZF_CALL dspfc_rsmp_cos(dspf_vector *kernel, const dspf_vector *series);
+/** As dspc_rsmp_cos with w(theta) = sum a_k cos(theta)^k. */
+ZF_API int ZF_CALL dspc_rsmp_pcos (dsp_vector  *kernel, const dsp_vector  *series);
+ZF_API int ZF_CALL dspfc_rsmp_pcos(dspf_vector *kernel, const dspf_vector *series);
+/** Resamples by the kernel table (mode 0 nearest entry, real input only; 1
+ * linear interpolation); out->points on entry is the most samples produced,
+ * on return the count produced. History: K samples, the position (> -1) and
+ * the count of this block's samples it accounts for. -1 for a negative or
+ * non-finite ratio, a complex kernel, K < 1, a table of no whole number of
+ * entries per input sample, a bad position or mode. */
+ZF_API int ZF_CALL dspd_rsmp (const dsp_vector  *in, dsp_vector  *out, int mode, const dsp_vector  *kernel, double ratio, dsp_vector  *history);
+ZF_API int ZF_CALL dspfd_rsmp(const dspf_vector *in, dspf_vector *out, int mode, const dspf_vector *kernel, float  ratio, dspf_vector *history);
+/** dspd_rsmp with a kernel built by dspc_rsmp for which. */
+ZF_API int ZF_CALL dspd_rsmp2 (const dsp_vector  *in, dsp_vector  *out, int mode, int which, double ratio, dsp_vector  *history);
+ZF_API int ZF_CALL dspfd_rsmp2(const dspf_vector *in, dspf_vector *out, int mode, int which, float  ratio, dspf_vector *history);
+
 /* ------------------------------------------------------------------------ */
 /* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
 
+/** The generators size the record for its preset points (dsp_alloc) and use its
+ * delta: freq in cycles per unit of delta, w = 2 pi delta freq. Sinusoids are
+ * seeded with an exact cosine and sine every 256 samples and advanced by
+ * rotation in between. Noise draws on the library's one rand() source, seeded
+ * once per process from the clock; sequences do not repeat between runs. */
+/** cos(w n + phase); a complex record keeps its kind with imaginary parts 0. 0 or -1. */
+ZF_API int ZF_CALL dspc_cos (dsp_vector  *v, double freq, double phase);
+ZF_API int ZF_CALL dspfc_cos(dspf_vector *v, float  freq, float  phase);
+/** cos(w n + phase) + j sin(w n + phase) on a complex record; dspc_cos on a real one. 0 or -1. */
+ZF_API int ZF_CALL dspc_cexp (dsp_vector  *v, double freq, double phase);
+ZF_API int ZF_CALL dspfc_cexp(dspf_vector *v, float  freq, float  phase);
+/** offset + n (delta slope) by repeated addition of the step; complex: imaginary parts 0. 0 or -1. */
+ZF_API int ZF_CALL dspc_line (dsp_vector  *v, double slope, double offset);
+ZF_API int ZF_CALL dspfc_line(dspf_vector *v, float  slope, float  offset);
+/** Noise. kind 0: uniform in [-1, 1) (complex: uniform in the unit disc); 1: Gaussian
+ * of variance 1 (complex: 1 per part); 2: exponential of mean 1; 3: Laplace (the
+ * exponential with a random sign). -1 for another kind, and for kinds 2 and 3 on a
+ * complex record. */
+ZF_API int ZF_CALL dspc_rand (dsp_vector  *v, int kind);
+ZF_API int ZF_CALL dspfc_rand(dspf_vector *v, int kind);
+/** Adds amp cos(w n + phase) to the samples (complex: the real parts) and, with bit 0
+ * of flags on a complex record, amp sin(w n + phase) to the imaginary parts; size
+ * and kind unchanged. 0 or -1. */
+ZF_API int ZF_CALL dspi_addcos (dsp_vector  *v, int flags, double amp, double freq, double phase);
+ZF_API int ZF_CALL dspfi_addcos(dspf_vector *v, int flags, float  amp, float  freq, float  phase);
+
 /* ------------------------------------------------------------------------ */
 /* Interpolation and splines                                                 */
 /* ------------------------------------------------------------------------ */
+
+/* Knots x (strictly increasing, no NaN) and values y, both real of n points;
+ * new abscissae xi, real. out gets xi's points and delta, real; out may be any
+ * input. Bad knots (not strictly increasing or NaN), y not of n points, a
+ * complex x, y, xi or y2, or a y2 not of n points: -1 before out is touched.
+ * flags & 7 is the mode: 0 holds the value of the last knot at or before xi
+ * (y[0] left of the knots, y[n-1] at and past the last), 1 linear, 3 the
+ * parabola through the three knots centred on the knot nearest xi (a tie goes
+ * to the lower knot, the centre kept within 1 .. n-2), 5 cubic spline with the
+ * second derivatives y2 (null: not-a-knot ends from dspb_cspline_2d, which
+ * needs four knots). Modes 3 and 7 with fewer than three knots become mode 1.
+ * The reserved modes 2, 4, 6 and 7 evaluate nothing: from the first abscissa
+ * not clamped on the left on, every output is y[j] for the first knot x[j]
+ * (j >= 1, at most n-1) right of that abscissa. flags & 16 clamps: y[0] left
+ * of x[0] and y[n-1] at and beyond x[n-1]; otherwise the end pieces are
+ * extended. Every abscissa is evaluated on its own interval whatever the order
+ * of xi (O(n + m) for ascending xi, O(m log n) otherwise); a NaN abscissa
+ * gives NaN. n = 0 gives zeros; n = 1 gives y[0], in mode 5
+ * y[0] + y2[0] (xi - x[0])^2 / 2. 0 or -1. */
+ZF_API int ZF_CALL dsp_interp (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out, int flags);
+ZF_API int ZF_CALL dspf_interp(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out, int flags);
+/* dsp_interp in mode 5 (cubic spline, extrapolating). 0 or -1. */
+ZF_API int ZF_CALL dsp_cspline (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out);
+ZF_API int ZF_CALL dspf_cspline(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out);
+/* Second derivatives y2 of the cubic spline through the n >= 4 knots (x, y),
+ * real, n points, delta the mean of x's and y's; y2 may be x or y. End
+ * conditions cond0 (first knot) and condn (last knot): 0 not-a-knot (one cubic
+ * over the first or last two intervals), 1 slope d0 / dn, 2 second derivative
+ * d0 / dn, 3 natural (second derivative 0). Four knots with not-a-knot at both
+ * ends give the single cubic through them. -1 (y2 untouched) for complex
+ * input, unequal lengths, n < 4, a code outside 0 .. 3, or an interval that
+ * is not positive (NaN included). */
+ZF_API int ZF_CALL dspb_cspline_2d (const dsp_vector  *x, const dsp_vector  *y, dsp_vector  *y2, double d0, double dn, int cond0, int condn);
+ZF_API int ZF_CALL dspfb_cspline_2d(const dspf_vector *x, const dspf_vector *y, dspf_vector *y2, float  d0, float  dn, int cond0, int condn);
+/* Doubles the rate in place by zero insertion: sample k moves to 2k, 2k + 1
+ * becomes 0 (a zero pair when complex), points doubles and delta halves. 0 or -1. */
+ZF_API int ZF_CALL dspi_zinter (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_zinter(dspf_vector *v);
 
 /* ------------------------------------------------------------------------ */
 /* Descriptive statistics                                                    */
