@@ -62,7 +62,8 @@ static void axes(FILE *f, int top, double x0, double x1, double y0, double y1, c
 }
 
 /* One panel: frame, axes, title and the trace as one path. */
-static void panel(FILE *f, const dsp_vector *v, int index, int top, int db, const char *title) {
+static void panel(FILE *f, const dsp_vector *v, int index, int top, int db, const char *title, const char *xlabel,
+                  const char *ylabel) {
     const int n = v->points;
     const double x1 = n > 1 ? (n - 1) * v->delta : 1.0;
     double y0 = HUGE_VAL, y1 = -HUGE_VAL, pad;
@@ -79,8 +80,8 @@ static void panel(FILE *f, const dsp_vector *v, int index, int top, int db, cons
     xml_text(f, title);
     if (index > 0) fprintf(f, " (vector %d)", index);
     fputs("</text>\n", f);
-    axes(f, top, 0.0, x1 > 0 ? x1 : 1.0, y0, y1, v->type == ZFVEC_TYPE_SPECTRUM ? "frequency (Hz)" : "time (s)",
-         db || v->type == ZFVEC_TYPE_SPECTRUM ? "level (dB)" : v->complex ? "magnitude" : "value");
+    if (!ylabel) ylabel = db ? "level (dB)" : v->complex ? "magnitude" : "value";
+    axes(f, top, 0.0, x1 > 0 ? x1 : 1.0, y0, y1, xlabel, ylabel);
     fputs("<path fill=\"none\" stroke=\"#1f5fbf\" stroke-width=\"1\" d=\"", f);
 #define VERTEX(px, y)                                                                                  \
     do {                                                                                               \
@@ -114,7 +115,7 @@ static void panel(FILE *f, const dsp_vector *v, int index, int top, int db, cons
 }
 
 int cmd_plot(int argc, char **argv) {
-    const char *in = NULL, *out = NULL, *title = NULL;
+    const char *in = NULL, *out = NULL, *title = NULL, *xlabel = "time (s)", *ylabel = NULL;
     char *made = NULL;
     int db = 0, i, count = 0, status;
     dsp_vector *vs;
@@ -124,6 +125,10 @@ int cmd_plot(int argc, char **argv) {
             if (!(out = option_value("plot", argc, argv, &i))) return 2;
         } else if (strcmp(argv[i], "--title") == 0) {
             if (!(title = option_value("plot", argc, argv, &i))) return 2;
+        } else if (strcmp(argv[i], "--ylabel") == 0) {
+            if (!(ylabel = option_value("plot", argc, argv, &i))) return 2;
+        } else if (strcmp(argv[i], "--freq") == 0) {
+            xlabel = "frequency (Hz)";
         } else if (strcmp(argv[i], "--db") == 0) {
             db = 1;
         } else if (argv[i][0] == '-' && argv[i][1] != '\0') {
@@ -162,7 +167,8 @@ int cmd_plot(int argc, char **argv) {
                "font-family=\"sans-serif\" font-size=\"12\">\n<rect width=\"100%%\" height=\"100%%\" fill=\"white\"/>\n",
             WIDTH, PANEL * count, WIDTH, PANEL * count);
     for (i = 0; i < count; ++i)
-        panel(f, &vs[i], count > 1 ? i + 1 : 0, i * PANEL + TOP, db, title ? title : strcmp(in, "-") ? in : "stdin");
+        panel(f, &vs[i], count > 1 ? i + 1 : 0, i * PANEL + TOP, db, title ? title : strcmp(in, "-") ? in : "stdin",
+              xlabel, ylabel);
     fputs("</svg>\n", f);
     status = ferror(f) ? write_failure(out) : 0;
     status = close_output(f, out, status);

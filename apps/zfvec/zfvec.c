@@ -16,9 +16,15 @@ static const zfvec_command commands[] = {
     {"example", "usage: zfvec example OUT\n"
                 "  write a small example file (a real sine, a complex vector and a float vector)\n",
      cmd_example},
-    {"plot", "usage: zfvec plot IN [-o OUT.svg] [--db] [--title T]\n"
-             "  draw every vector of IN as an SVG line plot (default OUT: IN with .svg);\n"
-             "  complex vectors as magnitudes; --db draws 20 log10 |x|\n", cmd_plot},
+    {"generate", "usage: zfvec generate [--points N] [--rate HZ] [--tone FREQ:AMPL[:PHASE]]...\n"
+                 "                      [--noise KIND:LEVEL] [--records K] OUT\n"
+                 "  K records of N points (default 1 of 1024) sampled at HZ (default 1): the sum of\n"
+                 "  the tones (PHASE in radians) and noise scaled by LEVEL (KIND uniform, gauss,\n"
+                 "  exponential or laplace); consecutive records continue one signal\n", cmd_generate},
+    {"plot", "usage: zfvec plot IN [-o OUT.svg] [--db] [--title T] [--freq] [--ylabel T]\n"
+             "  draw every vector of IN as an SVG line plot (default OUT: IN with .svg), one\n"
+             "  panel each; complex vectors as magnitudes; --db draws 20 log10 |x|; --freq\n"
+             "  labels the axis of delta in hertz (spectra) instead of seconds\n", cmd_plot},
 };
 #define NCOMMANDS (int)(sizeof commands / sizeof commands[0])
 

@@ -10,10 +10,6 @@
 #define FORM_ASCII 1
 #define FORM_SUMMARY 2
 
-/* zfvec tags the spectra it writes with this record type, so that plot labels
- * their axis in hertz; the library itself never interprets the type. */
-#define ZFVEC_TYPE_SPECTRUM 1
-
 /* A command: its name, its usage lines and its body (arguments after the name). */
 typedef struct zfvec_command {
     const char *name;
@@ -53,5 +49,6 @@ int cmd_info(int argc, char **argv);
 int cmd_convert(int argc, char **argv);
 int cmd_example(int argc, char **argv);
 int cmd_plot(int argc, char **argv);
+int cmd_generate(int argc, char **argv);
 
 #endif
