@@ -13,52 +13,41 @@ using C = std::complex<double>;
 
 namespace {
 
-// Complex points as the interleaved doubles the routines take.
-const double* d(const C* p) { return reinterpret_cast<const double*>(p); }
-double* d(C* p) { return reinterpret_cast<double*>(p); }
+template <class P> auto d(P* p) { return reinterpret_cast<std::conditional_t<std::is_const_v<P>, const double*, double*>>(p); }
 
-// Turn rates (rad per unit frequency, linear and quadratic): left and right turns,
-// steps of up to a third of a turn.
-struct Spin { double beta, gamma; };
-class CircularArc : public ::testing::TestWithParam<Spin> {
-protected:
-    C at(double f) const { return C(0.4, -0.1) + std::polar(0.6, 0.3 + GetParam().beta * f + GetParam().gamma * f * f); }
-};
+// Turn rates (rad per unit frequency, linear and quadratic): left and right
+// turns, steps of up to a third of a turn.
+class CircularArc : public ::testing::TestWithParam<std::pair<double, double>> {};
 
 TEST_P(CircularArc, PointsOfACircleComeBackToRounding) {
+    auto at = [](double f) { return C(0.4, -0.1) + std::polar(0.6, 0.3 + GetParam().first * f + GetParam().second * f * f); };
     const std::vector<double> f{0, 0.5, 1.2, 1.6, 2.5, 3.0, 3.1, 4.0};
-    std::vector<C> z;
-    for (double v : f) z.push_back(at(v));
+    std::vector<C> z, out(31);
     std::vector<double> nf;
+    for (double v : f) z.push_back(at(v));
     for (int k = 0; k < 31; ++k) nf.push_back(0.13 * ((k * 17) % 31));   // 0 .. 3.9 in no order
-    std::vector<C> out(nf.size());
-    ASSERT_EQ(CircularInterpolation(f.data(), d(&z[0]), 8, nf.data(), d(&out[0]), 31), 31);
+    ASSERT_EQ(CircularInterpolation(f.data(), d(z.data()), 8, nf.data(), d(out.data()), 31), 31);
     for (std::size_t k = 0; k < nf.size(); ++k) EXPECT_LT(std::abs(out[k] - at(nf[k])), 1e-13) << nf[k];
-    C one;
-    EXPECT_EQ(InterpolateCircular(&f[2], d(&z[2]), 0.9, d(&one)), 1);   // extended beyond the three
-    EXPECT_LT(std::abs(one - at(0.9)), 1e-13);
+    EXPECT_EQ(InterpolateCircular(&f[2], d(&z[2]), 0.9, d(out.data())), 1);   // extended beyond the three
+    EXPECT_LT(std::abs(out[0] - at(0.9)), 1e-13);
 }
 
-INSTANTIATE_TEST_SUITE_P(Turns, CircularArc, ::testing::Values(Spin{1.5, 0.0}, Spin{-1.5, 0.0}, Spin{0.4, 0.3}, Spin{-0.2, -0.4}));
+INSTANTIATE_TEST_SUITE_P(Turns, CircularArc, ::testing::Values(std::pair{1.5, 0.0}, std::pair{-1.5, 0.0}, std::pair{0.4, 0.3}, std::pair{-0.2, -0.4}));
 
 TEST(CircularLine, CollinearPointsEndsAndRefusals) {
-    const double f[] = {1, 2, 4, 5};
+    const double f[] = {1, 2, 4, 5}, nf[] = {0, 1.5, 3.5, 4.5, 9}, bad[] = {1, 2, 2, 5};
     const C z[] = {C(1, 1), C(2, 3), C(4, 7), C(5, 9)};   // z = f + j(2f - 1)
-    C one, out[5];
-    EXPECT_EQ(InterpolateCircular(f, d(&z[0]), 3.0, d(&one)), 0);
-    EXPECT_EQ(one, C(3, 5));
-    const double nf[] = {0, 1.5, 3.5, 4.5, 9};
-    ASSERT_EQ(CircularInterpolation(f, d(&z[0]), 4, nf, d(&out[0]), 5), 5);
     const C want[] = {z[0], C(1.5, 2), C(3.5, 6), C(4.5, 8), z[3]};
+    C out[5];
+    EXPECT_EQ(InterpolateCircular(f, d(z), 3.0, d(out)), 0);
+    EXPECT_EQ(out[0], C(3, 5));
+    ASSERT_EQ(CircularInterpolation(f, d(z), 4, nf, d(out), 5), 5);
     for (int k = 0; k < 5; ++k) EXPECT_NEAR(std::abs(out[k] - want[k]), 0, 1e-14) << k;
-    ASSERT_EQ(CircularInterpolation(f, d(&z[0]), 1, nf, d(&out[0]), 2), 2);
+    ASSERT_EQ(CircularInterpolation(f, d(z), 1, nf, d(out), 2), 2);   // one point: a constant
     EXPECT_EQ(out[1], z[0]);
-    const double bad[] = {1, 2, 2, 5};
-    out[0] = C(7, 7);
-    EXPECT_EQ(CircularInterpolation(bad, d(&z[0]), 4, nf, d(&out[0]), 5), -1);
-    EXPECT_EQ(InterpolateCircular(bad + 1, d(&z[0]), 3.0, d(&out[0])), -1);
-    EXPECT_EQ(CircularInterpolation(f, nullptr, 4, nf, d(&out[0]), 5), -1);
-    EXPECT_EQ(out[0], C(7, 7));
+    EXPECT_EQ(CircularInterpolation(bad, d(z), 4, nf, d(out), 5) + InterpolateCircular(bad + 1, d(z), 3.0, d(out)), -2);
+    EXPECT_EQ(CircularInterpolation(f, nullptr, 4, nf, d(out), 5), -1);
+    EXPECT_EQ(out[0], z[0]);
 }
 
 }  // namespace
