@@ -926,6 +926,77 @@ ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
 /* Histogram, peak search, polynomials and regression                        */
 /* ------------------------------------------------------------------------ */
 
+/* Polynomials hold their coefficients lowest power first (as dspb_pmul and
+ * dspi_pdiffer); leading zero coefficients lower the degree. Every output may
+ * be an input record. */
+/* Counts of the real samples in `bins` equal bins between lo and hi: bin k holds
+ * lo + k w <= x < lo + (k + 1) w, w = (hi - lo) / bins, the last bin also x = hi;
+ * samples outside [lo, hi] and NaN are not counted. out: bins real points,
+ * delta w (bin k is centred on lo + (k + 1/2) w); single-precision counts are
+ * exact up to 2^24. -1 (out untouched) for complex input, bins < 1, or limits
+ * that are not finite with lo < hi. */
+ZF_API int ZF_CALL dsps_hist (const dsp_vector  *in, double lo, double hi, int bins, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_hist(const dspf_vector *in, float  lo, float  hi, int bins, dspf_vector *out);
+/* Strongest peak of a real vector: out = (position, height), two real points,
+ * position in samples (times delta for the abscissa). The largest sample (the
+ * first of equals; NaN ignored) and its neighbours give the vertex of their
+ * parabola; a run of equal largest samples (a plateau) gives its centre and
+ * its value; at the first or last sample, or beside a NaN, the sample itself.
+ * -1 (out untouched) for complex input or no sample other than NaN. */
+ZF_API int ZF_CALL dsps_peak (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_peak(const dspf_vector *in, dspf_vector *out);
+/* p at every sample of x by Horner (in double): out gets x's points and delta,
+ * complex when p or x is; an empty p gives zeros; results beyond the guard
+ * 1e100 (1e15) are held at it. 0 or -1. */
+ZF_API int ZF_CALL dsps_peval (const dsp_vector  *p, const dsp_vector  *x, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_vector *out);
+/* The real x with p(x) = y nearest x0 (one real point): among the real roots of
+ * p - y (dsps_proots) the nearest, polished by Newton steps that fall back to
+ * bisection inside a bracketing sign change. p identically y gives x0. -1 (out
+ * untouched) for a complex p, NaN y or x0, or when p - y has no real root
+ * (a nonzero constant included). */
+ZF_API int ZF_CALL dsps_psolve (const dsp_vector  *p, double y, double x0, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_psolve(const dspf_vector *p, float  y, float  x0, dspf_vector *out);
+/* The complex x with p(x) = y nearest x0 (one complex point); p real or complex.
+ * p identically y gives x0. -1 (out untouched) for a NaN argument or when
+ * p - y is a nonzero constant. */
+ZF_API int ZF_CALL dsps_pcsolve (const dsp_vector  *p, double y_re, double y_im, double x0_re, double x0_im, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_pcsolve(const dspf_vector *p, float  y_re, float  y_im, float  x0_re, float  x0_im, dspf_vector *out);
+/* All d roots of p of degree d (real or complex coefficients), complex, d points,
+ * ascending by real part then imaginary part; zero low coefficients give exact
+ * zero roots; a real p gives exactly real roots where a root has no conjugate
+ * partner. Aberth-Ehrlich iteration in double from the circles of the Newton
+ * polygon, p evaluated by compensated Horner (as in twice the precision), each
+ * root polished by a Newton step: the roots are those of the coefficients as
+ * stored, so the error is the conditioning of the roots times the rounding of
+ * the coefficients. Measured in double: roots 1 .. 20 from the coefficients of
+ * their product (rounded to double) within 1e-3, 20 roots evenly spaced on
+ * [-1, 1] within 1e-10, five roots 1e-3 apart within 1e-3, a triple root of
+ * integer coefficients within 1e-9; an m-fold root of rounded coefficients is
+ * good to about eps^(1/m). The single-precision twin computes in double.
+ * A nonzero constant gives no roots; -1 (out untouched) for an empty or zero p. */
+ZF_API int ZF_CALL dsps_proots (const dsp_vector  *p, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_proots(const dspf_vector *p, dspf_vector *out);
+/* dsps_proots in place: v becomes its roots. */
+ZF_API int ZF_CALL dspi_proots (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_proots(dspf_vector *v);
+/* In place: the n roots (real or complex) become the n + 1 coefficients of the
+ * monic polynomial (x - r_0) ... (x - r_(n-1)), complex as the roots; no roots
+ * give the constant 1. 0 or -1. */
+ZF_API int ZF_CALL dspi_pztoc (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_pztoc(dspf_vector *v);
+/* Least-squares line y = slope x + offset through the real samples against
+ * x_k = k delta: out = (slope, offset, r), three real points, r the correlation
+ * coefficient (0 when the samples have no spread). Centred sums in double.
+ * -1 (out untouched) for complex input, fewer than two samples or delta 0;
+ * NaN samples give NaN results. */
+ZF_API int ZF_CALL dsps_lin_regres (const dsp_vector  *y, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_lin_regres(const dspf_vector *y, dspf_vector *out);
+/* As dsps_lin_regres against the abscissae x (real, as many points as y); -1
+ * also when the abscissae are all equal or one is NaN. */
+ZF_API int ZF_CALL dsps_lin_regres2 (const dsp_vector  *x, const dsp_vector  *y, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_lin_regres2(const dspf_vector *x, const dspf_vector *y, dspf_vector *out);
+
 #ifdef __cplusplus
 }
 #endif
