@@ -2,13 +2,14 @@
 
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/unary.hpp"
 
 namespace zf {
 
-template <class T> int cos(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return std::cos(x); }); }
-template <class T> int sin(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return std::sin(x); }); }
-template <class T> int tan(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return std::tan(x); }); }
+template <class T> int cos(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return libm::cos(x); }); }
+template <class T> int sin(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return libm::sin(x); }); }
+template <class T> int tan(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return libm::tan(x); }); }
 template <class T> int atan(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return std::atan(x); }); }
 
 template <class T> int acos(Vec<T>* v) noexcept {
@@ -29,7 +30,7 @@ template <class T> int sinh(Vec<T>* v) noexcept {
 template <class T> int tanh(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return std::tanh(x); }); }
 
 template <class T> int sinc(Vec<T>* v) noexcept {
-    return real_only<T>(v, [](T x) { return x == T(0) ? T(1) : std::sin(x) / x; });
+    return real_only<T>(v, [](T x) { return x == T(0) ? T(1) : libm::sin(x) / x; });
 }
 
 template int cos<double>(Vec<double>*) noexcept;
