@@ -601,29 +601,273 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
+/** One step of averaging: acc folds in the record in as record number count of a
+ * run. Flag 32 first replaces the input by its magnitude squared (in scratch, or
+ * a temporary when scratch is null or is one of the other records). count <= 1:
+ * acc becomes a copy. Else by mode = flags & 15: 0 copy, 1 weighted mean
+ * acc + w (in - acc), 2 maximum, 3 minimum, 4 harmonic and 5 geometric weighted
+ * mean, 6 copy when n == 1 or n > 0 and count mod n == 1, 7 .. 15 nothing.
+ * w = weight when >= 0, else 1/count, or with flag 16 1/limit once
+ * 0 < limit <= count. 0 or -1 (modes 4 and 5 run every step, -1 if any failed). */
+ZF_API int ZF_CALL dsph_avg (const dsp_vector  *in, dsp_vector  *acc, dsp_vector  *scratch, int flags, int count, int n, double weight, double limit);
+ZF_API int ZF_CALL dspfh_avg(const dspf_vector *in, dspf_vector *acc, dspf_vector *scratch, int flags, int count, int n, float  weight, float  limit);
+/** Correlation out[k] = (1/M) sum_{j < length} conj(a[j]) b[j + k] for
+ * k = 0 .. b points - length, halved when half is nonzero, through transforms of
+ * M points (the power of two >= b points); delta the mean of a's and b's.
+ * Mixed inputs: a real input with a complex one counts as complex with imaginary
+ * parts 0 and the result is complex. scratch receives b's transform (a temporary
+ * when null or when it is a or out). -1 when length < 1 or exceeds a or b. */
+ZF_API int ZF_CALL dsph_corr (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, dsp_vector  *scratch, int length, int half);
+ZF_API int ZF_CALL dspfh_corr(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, dspf_vector *scratch, int length, int half);
+/** dsph_corr with a temporary scratch record. */
+ZF_API int ZF_CALL dspb_corr (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, int length, int half);
+ZF_API int ZF_CALL dspfb_corr(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, int length, int half);
+
 /* ------------------------------------------------------------------------ */
 /* Window catalogue and generation                                           */
 /* ------------------------------------------------------------------------ */
+
+/**
+ * Multiplies a real vector in place by the window of a kind 0 .. 24 in the
+ * normalisation of the low flag bits (DSP_WINFLAG_*), taken from the window
+ * cache of the precision (16 windows, replaced cyclically), then rotates the
+ * product left by points/2 unless DSP_WINFLAG_NO_ROTATE (kind 0: only with
+ * DSP_WINFLAG_ROTATE). With DSP_WINFLAG_WIDTH the window spans width samples
+ * (kind 0 and the cosine sums only). -1 for a complex vector, low flag bits 3,
+ * a kind outside 0 .. 24, a flag the kind refuses, or a failed allocation.
+ * A complex vector is refused for every kind, kind 0 included.
+ * Kind 0 without the width flag only rotates (or not), whatever the symmetric flag says.
+ * A width of N samples or more computes floor((N - 1)/2) samples each side and forces none to 0.
+ */
+ZF_API int ZF_CALL dspi_window2 (dsp_vector  *v, int kind, int flags, double width);
+ZF_API int ZF_CALL dspfi_window2(dspf_vector *v, int kind, int flags, float  width);
+/** dspi_window2 with width 0; DSP_WINFLAG_WIDTH gives -1. */
+ZF_API int ZF_CALL dspi_window (dsp_vector  *v, int kind, int flags);
+ZF_API int ZF_CALL dspfi_window(dspf_vector *v, int kind, int flags);
+/**
+ * Cosine-sum window sum_k a_k cos(2 pi k m / N) at distance m from the centre,
+ * with the caller's real coefficients a0, a1, ... used as given, then rotated.
+ * No short-length correction is applied: the coefficients define the window exactly.
+ */
+ZF_API int ZF_CALL dspi_window_cos (dsp_vector  *v, const dsp_vector  *coef);
+ZF_API int ZF_CALL dspfi_window_cos(dspf_vector *v, const dspf_vector *coef);
+/**
+ * Gaussian window exp(-m^2 / (2 (sigma L)^2)), L = N (periodic) or N - 1 (symmetric).
+ * The symmetric Gaussian, sinc and Tukey windows use N - 1 wherever the periodic ones use N.
+ * sigma 0 gives a unit impulse at the centre; DSP_WINFLAG_WIDTH gives -1 (as for all below).
+ */
+ZF_API int ZF_CALL dspi_window_gauss (dsp_vector  *v, double sigma, int flags);
+ZF_API int ZF_CALL dspfi_window_gauss(dspf_vector *v, float  sigma, int flags);
+/**
+ * Kaiser window I0(beta sqrt(1 - (2m/L)^2)), L = N or N - 1 (symmetric); |beta|
+ * limited to ln 1e200 (ln 1e100 for RMS normalisation); peak normalisation
+ * divides by I0(beta). A one-sample window is 1 in every normalisation.
+ */
+ZF_API int ZF_CALL dspi_window_kaiser (dsp_vector  *v, double beta, int flags);
+ZF_API int ZF_CALL dspfi_window_kaiser(dspf_vector *v, float  beta, int flags);
+/**
+ * (sin x / x)^power with x = 2 span m / L over [-span, span), 1 at x = 0.
+ * For a power other than 0, 1 and 2 a sample with sin x / x <= 0 is 0.
+ */
+ZF_API int ZF_CALL dspi_window_sinc (dsp_vector  *v, double span, double power, int flags);
+ZF_API int ZF_CALL dspfi_window_sinc(dspf_vector *v, float  span, float  power, int flags);
+/** Tukey window: 1 up to (1 - taper) L / 2 from the centre, a raised-cosine taper beyond. */
+ZF_API int ZF_CALL dspi_window_tukey (dsp_vector  *v, double taper, int flags);
+ZF_API int ZF_CALL dspfi_window_tukey(dspf_vector *v, float  taper, int flags);
+/**
+ * Window for FIR design, peak 1, symmetric, not rotated: kind 100 Gaussian of
+ * relative bandwidth param (param <= 0 leaves the vector unchanged), 101 Kaiser
+ * for transition width param, 102 and 103 sinc windows of width param, any
+ * other kind dspi_window with flags 38 (so the cosine sums and the triangle give -1).
+ */
+ZF_API int ZF_CALL dspi_window_fir (dsp_vector  *v, int kind, double param);
+ZF_API int ZF_CALL dspfi_window_fir(dspf_vector *v, int kind, float  param);
+/**
+ * Canonical short name of a kind into buffer (at most size bytes, always
+ * terminated); -1 with an empty string for a kind without a name, -1 for a
+ * null buffer or size < 1.
+ */
+ZF_API int ZF_CALL dsp_window_to_str (int kind, char *buffer, int size);
+ZF_API int ZF_CALL dspf_window_to_str(int kind, char *buffer, int size);
+/**
+ * Kind of a name, short or DSP_WINDOW_ form, compared case-insensitively over
+ * the whole text; -1 with kind 0 when nothing matches, -1 for null arguments.
+ */
+ZF_API int ZF_CALL dsp_window_from_str (const char *text, int *kind);
+ZF_API int ZF_CALL dspf_window_from_str(const char *text, int *kind);
 
 /* ------------------------------------------------------------------------ */
 /* Window scaling and noise bandwidth                                        */
 /* ------------------------------------------------------------------------ */
 
+/**
+ * Factor by which the window of kind, flags, points and width normalised as the
+ * flags ask exceeds the same window at peak 1: 1 for peak normalisation or
+ * points < 1; closed forms for the cosine sums and the triangle, the generated
+ * window measured otherwise (0 when its mean or RMS is 0). -1 for a null
+ * result, low flag bits 3, an unknown kind or a refused flag.
+ */
+ZF_API int ZF_CALL dsp_window2_scale (double *result, int kind, int flags, int points, double width);
+ZF_API int ZF_CALL dspf_window2_scale(float  *result, int kind, int flags, int points, float  width);
+/** dsp_window2_scale with width 0; DSP_WINFLAG_WIDTH gives -1. */
+ZF_API int ZF_CALL dsp_window_scale (double *result, int kind, int flags, int points);
+ZF_API int ZF_CALL dspf_window_scale(float  *result, int kind, int flags, int points);
+/** Equivalent noise bandwidth in bins of the periodic window: (mean scale / RMS scale)^2; result written only on success. */
+ZF_API int ZF_CALL dsp_window_enbw (double *result, int kind, int points);
+ZF_API int ZF_CALL dspf_window_enbw(float  *result, int kind, int points);
+/** The same for the window spanning width samples (DSP_WINFLAG_WIDTH). */
+ZF_API int ZF_CALL dsp_window2_enbw (double *result, int kind, int points, double width);
+ZF_API int ZF_CALL dspf_window2_enbw(float  *result, int kind, int points, float  width);
+
 /* ------------------------------------------------------------------------ */
 /* FIR design and filtering                                                  */
 /* ------------------------------------------------------------------------ */
+
+/** FIR design: points = M taps of kind 0-10 (DSP_FIR_*; frequencies in cycles
+ * per sample); a vector complex on entry gets complex taps with zero imaginary
+ * parts. -1 for an unknown kind, kinds 1 and 2 with even M, or a failed
+ * allocation. */
+ZF_API int ZF_CALL dspc_fir (dsp_vector  *fir, int kind, double f1, double f2);
+ZF_API int ZF_CALL dspfc_fir(dspf_vector *fir, int kind, float  f1, float  f2);
+/** Fixed half responses for dspd_sfir with odd = 1: which 100 (12 values), 101
+ * (20: a 39-tap lowpass, gain 1 to 0.2 and at most 0.00034 from 0.3 cycles
+ * per sample on), 102 (5); -1 for any other which. */
+ZF_API int ZF_CALL dspc_fir2 (dsp_vector  *fir, int which);
+ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
+/** Causal FIR filtering y[n] = sum h[k] x[n-k], output as long as the input
+ * (complex when the input or h is); state (or null for zeros) carries the
+ * last M-1 inputs, oldest first, so blocks join without a seam. Long real
+ * responses run by overlap-save FFT convolution with a cached coefficient
+ * transform keyed on the values and the transform length, which depends on
+ * M only, so streamed blocks equal one whole call up to rounding. M <= 0:
+ * the output is a copy. out may be in; -1 when in or out shares storage with
+ * state or out with h. */
+ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_fir(const dspf_vector *in, dspf_vector *out, const dspf_vector *h, dspf_vector *state);
+/** dspd_fir with the response expanded from half: 2H taps, or 2H-1 with odd
+ * (the last half sample is the shared centre), the mirrored taps negated with
+ * negate; with odd and negate the centre tap keeps its sign ([1, 2] gives
+ * [1, 2, -1]). H <= 0: the output is a copy. */
+ZF_API int ZF_CALL dspd_sfir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *half, int odd, int negate, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_sfir(const dspf_vector *in, dspf_vector *out, const dspf_vector *half, int odd, int negate, dspf_vector *state);
+/** Hardware-filter model, kind 0 only (else -1): four sections
+ * (0.25 + 0.5z^-1 + 0.5z^-2 + 0.25z^-3)/(1 + 0.5z^-2); state holds the 12
+ * cells, null uses the library's default history, which persists between
+ * calls. out may be in; -1 when in or out shares storage with the history. */
+ZF_API int ZF_CALL dspd_hwfilt (const dsp_vector  *in, dsp_vector  *out, int kind, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_hwfilt(const dspf_vector *in, dspf_vector *out, int kind, dspf_vector *state);
+/** dspd_hwfilt(v, v, kind, null): in place, continuing the default history. */
+ZF_API int ZF_CALL dspi_hwfilt (dsp_vector  *v, int kind);
+ZF_API int ZF_CALL dspfi_hwfilt(dspf_vector *v, int kind);
 
 /* ------------------------------------------------------------------------ */
 /* Decimation and resampling                                                 */
 /* ------------------------------------------------------------------------ */
 
+/** Ratios are output spacing over input spacing (above 1: fewer samples); an
+ * output's delta is the input's times the ratio. A history (state) vector may
+ * be null, and is otherwise made like the input (delta, kind, length) on each
+ * call; one that shares storage with the input or output is refused (-1). */
+
+/** Keeps every factor-th sample (factor < 1 taken as 1), starting at the
+ * phase's rounded first sample (0 without phase); the phase becomes the index
+ * of the next sample to keep in the next block; delta times factor. */
+ZF_API int ZF_CALL dspd_deci (const dsp_vector  *in, dsp_vector  *out, int factor, dsp_vector  *phase);
+ZF_API int ZF_CALL dspfd_deci(const dspf_vector *in, dspf_vector *out, int factor, dspf_vector *phase);
+/** Kernel table of kernel->points samples from stored series which (0-4, else
+ * -1): element 0 the kernel length K, then one period of the kernel. */
+ZF_API int ZF_CALL dspc_rsmp (dsp_vector  *kernel, int which);
+ZF_API int ZF_CALL dspfc_rsmp(dspf_vector *kernel, int which);
+/** Kernel table of w(theta) = sum a_k cos(k theta) from series [K, a_0, a_1, ...];
+ * -1 for an odd points or a complex series. */
+ZF_API int ZF_CALL dspc_rsmp_cos (dsp_vector  *kernel, const dsp_vector  *series);
+ZF_API int ZF_CALL dspfc_rsmp_cos(dspf_vector *kernel, const dspf_vector *series);
+/** As dspc_rsmp_cos with w(theta) = sum a_k cos(theta)^k. */
+ZF_API int ZF_CALL dspc_rsmp_pcos (dsp_vector  *kernel, const dsp_vector  *series);
+ZF_API int ZF_CALL dspfc_rsmp_pcos(dspf_vector *kernel, const dspf_vector *series);
+/** Resamples by the kernel table (mode 0 nearest entry, real input only; 1
+ * linear interpolation); out->points on entry is the most samples produced,
+ * on return the count produced. History: K samples, the position (> -1) and
+ * the count of this block's samples it accounts for. -1 for a negative or
+ * non-finite ratio, a complex kernel, K < 1, a table of no whole number of
+ * entries per input sample, a bad position or mode. */
+ZF_API int ZF_CALL dspd_rsmp (const dsp_vector  *in, dsp_vector  *out, int mode, const dsp_vector  *kernel, double ratio, dsp_vector  *history);
+ZF_API int ZF_CALL dspfd_rsmp(const dspf_vector *in, dspf_vector *out, int mode, const dspf_vector *kernel, float  ratio, dspf_vector *history);
+/** dspd_rsmp with a kernel built by dspc_rsmp for which. */
+ZF_API int ZF_CALL dspd_rsmp2 (const dsp_vector  *in, dsp_vector  *out, int mode, int which, double ratio, dsp_vector  *history);
+ZF_API int ZF_CALL dspfd_rsmp2(const dspf_vector *in, dspf_vector *out, int mode, int which, float  ratio, dspf_vector *history);
+
 /* ------------------------------------------------------------------------ */
 /* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
 
+/** The generators size the record for its preset points (dsp_alloc) and use its
+ * delta: freq in cycles per unit of delta, w = 2 pi delta freq. Sinusoids are
+ * seeded with an exact cosine and sine every 256 samples and advanced by
+ * rotation in between. Noise draws on the library's one rand() source, seeded
+ * once per process from the clock; sequences do not repeat between runs. */
+/** cos(w n + phase); a complex record keeps its kind with imaginary parts 0. 0 or -1. */
+ZF_API int ZF_CALL dspc_cos (dsp_vector  *v, double freq, double phase);
+ZF_API int ZF_CALL dspfc_cos(dspf_vector *v, float  freq, float  phase);
+/** cos(w n + phase) + j sin(w n + phase) on a complex record; dspc_cos on a real one. 0 or -1. */
+ZF_API int ZF_CALL dspc_cexp (dsp_vector  *v, double freq, double phase);
+ZF_API int ZF_CALL dspfc_cexp(dspf_vector *v, float  freq, float  phase);
+/** offset + n (delta slope) by repeated addition of the step; complex: imaginary parts 0. 0 or -1. */
+ZF_API int ZF_CALL dspc_line (dsp_vector  *v, double slope, double offset);
+ZF_API int ZF_CALL dspfc_line(dspf_vector *v, float  slope, float  offset);
+/** Noise. kind 0: uniform in [-1, 1) (complex: uniform in the unit disc); 1: Gaussian
+ * of variance 1 (complex: 1 per part); 2: exponential of mean 1; 3: Laplace (the
+ * exponential with a random sign). -1 for another kind, and for kinds 2 and 3 on a
+ * complex record. */
+ZF_API int ZF_CALL dspc_rand (dsp_vector  *v, int kind);
+ZF_API int ZF_CALL dspfc_rand(dspf_vector *v, int kind);
+/** Adds amp cos(w n + phase) to the samples (complex: the real parts) and, with bit 0
+ * of flags on a complex record, amp sin(w n + phase) to the imaginary parts; size
+ * and kind unchanged. 0 or -1. */
+ZF_API int ZF_CALL dspi_addcos (dsp_vector  *v, int flags, double amp, double freq, double phase);
+ZF_API int ZF_CALL dspfi_addcos(dspf_vector *v, int flags, float  amp, float  freq, float  phase);
+
 /* ------------------------------------------------------------------------ */
 /* Interpolation and splines                                                 */
 /* ------------------------------------------------------------------------ */
+
+/* Knots x (strictly increasing, no NaN) and values y, both real of n points;
+ * new abscissae xi, real. out gets xi's points and delta, real; out may be any
+ * input. Bad knots (not strictly increasing or NaN), y not of n points, a
+ * complex x, y, xi or y2, or a y2 not of n points: -1 before out is touched.
+ * flags & 7 is the mode: 0 holds the value of the last knot at or before xi
+ * (y[0] left of the knots, y[n-1] at and past the last), 1 linear, 3 the
+ * parabola through the three knots centred on the knot nearest xi (a tie goes
+ * to the lower knot, the centre kept within 1 .. n-2), 5 cubic spline with the
+ * second derivatives y2 (null: not-a-knot ends from dspb_cspline_2d, which
+ * needs four knots). Modes 3 and 7 with fewer than three knots become mode 1.
+ * The reserved modes 2, 4, 6 and 7 evaluate nothing: from the first abscissa
+ * not clamped on the left on, every output is y[j] for the first knot x[j]
+ * (j >= 1, at most n-1) right of that abscissa. flags & 16 clamps: y[0] left
+ * of x[0] and y[n-1] at and beyond x[n-1]; otherwise the end pieces are
+ * extended. Every abscissa is evaluated on its own interval whatever the order
+ * of xi (O(n + m) for ascending xi, O(m log n) otherwise); a NaN abscissa
+ * gives NaN. n = 0 gives zeros; n = 1 gives y[0], in mode 5
+ * y[0] + y2[0] (xi - x[0])^2 / 2. 0 or -1. */
+ZF_API int ZF_CALL dsp_interp (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out, int flags);
+ZF_API int ZF_CALL dspf_interp(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out, int flags);
+/* dsp_interp in mode 5 (cubic spline, extrapolating). 0 or -1. */
+ZF_API int ZF_CALL dsp_cspline (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out);
+ZF_API int ZF_CALL dspf_cspline(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out);
+/* Second derivatives y2 of the cubic spline through the n >= 4 knots (x, y),
+ * real, n points, delta the mean of x's and y's; y2 may be x or y. End
+ * conditions cond0 (first knot) and condn (last knot): 0 not-a-knot (one cubic
+ * over the first or last two intervals), 1 slope d0 / dn, 2 second derivative
+ * d0 / dn, 3 natural (second derivative 0). Four knots with not-a-knot at both
+ * ends give the single cubic through them. -1 (y2 untouched) for complex
+ * input, unequal lengths, n < 4, a code outside 0 .. 3, or an interval that
+ * is not positive (NaN included). */
+ZF_API int ZF_CALL dspb_cspline_2d (const dsp_vector  *x, const dsp_vector  *y, dsp_vector  *y2, double d0, double dn, int cond0, int condn);
+ZF_API int ZF_CALL dspfb_cspline_2d(const dspf_vector *x, const dspf_vector *y, dspf_vector *y2, float  d0, float  dn, int cond0, int condn);
+/* Doubles the rate in place by zero insertion: sample k moves to 2k, 2k + 1
+ * becomes 0 (a zero pair when complex), points doubles and delta halves. 0 or -1. */
+ZF_API int ZF_CALL dspi_zinter (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_zinter(dspf_vector *v);
 
 /* ------------------------------------------------------------------------ */
 /* Descriptive statistics                                                    */
