@@ -607,6 +607,36 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
+/** Spectrum of a record in one call. Flags: 1 inverse (spectrum to record),
+ * 2 two-sided (no factor 2; complex transform with DC in the middle, also for
+ * real input), 4 scale by the transform length instead of 2 with centred
+ * padding, 8 no window (only its rotation), 16 centred padding with kind 0
+ * rotated, 32 complex inverse result, 128 raw (plain transform of the padded
+ * selection); 4, 16 and 128 ignore points and fraction.
+ * Forward: M = the power of two >= points (points < 1: the input's points);
+ * the first round(L) samples, L = min(M fraction, input points), fraction
+ * outside (0, 1] counting as 1, are windowed with mean normalisation over width
+ * L (kinds without a width, 1 and 14 .. 24, span the selection), scaled by 2,
+ * zero-padded to M (rescaled by M/L unless flag 4) and transformed: a real input
+ * gives M/2 + 1 bins, else M bins with DC in the middle.
+ * Inverse: points < 1 means 2 (input points) - 2 for a real result, else the
+ * input's points; the record is rebuilt at M points, cut to round(M fraction),
+ * rotated back and scaled back. 0 or -1. */
+ZF_API int ZF_CALL dsph_fft (const dsp_vector  *in, dsp_vector  *out, int points, double fraction, int kind, int flags);
+ZF_API int ZF_CALL dspfh_fft(const dspf_vector *in, dspf_vector *out, int points, float  fraction, int kind, int flags);
+/** dsph_fft for a record of any length, whole, through the arbitrary-length
+ * transforms (flag 4 scales by the length). The inverse of N bins gives a real
+ * record of 2N - 2 samples (an odd length needs flag 32 and the full two-sided
+ * spectrum), with flags 2, 32 or 128 a complex record of N samples. 0 or -1. */
+ZF_API int ZF_CALL dsph_dft (const dsp_vector  *in, dsp_vector  *out, int kind, int flags);
+ZF_API int ZF_CALL dspfh_dft(const dspf_vector *in, dspf_vector *out, int kind, int flags);
+/** dsph_fft with points 0 between caller arrays: in holds points samples (pairs
+ * when complex is nonzero); complex describes the input only: out receives the
+ * result in its own shape, (result complex ? 2 : 1) * result points doubles
+ * (real forward: M + 2, two-sided: 2M, real inverse: M, with M the power of two
+ * >= points). Caller-pops convention, plain name; no single-precision twin. */
+ZF_API int ZF_CDECL cf_dsph_fft(const double *in, double *out, int points, int complex, double fraction, int kind, int flags);
+
 /** One step of averaging: acc folds in the record in as record number count of a
  * run. Flag 32 first replaces the input by its magnitude squared (in scratch, or
  * a temporary when scratch is null or is one of the other records). count <= 1:
