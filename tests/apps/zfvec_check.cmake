@@ -1,11 +1,16 @@
-# One check of the zfvec tool, run as: cmake -DZFVEC=<tool> -DCASE=<name> -DWORK=<dir> -P zfvec_check.cmake
+# One check of the zfvec tool, run as: cmake -DZFVEC=<tool> -DCASE=<name>
+# -DWORK=<dir> [-DEMULATOR=<program|arguments>] -P zfvec_check.cmake
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
+string(REPLACE "|" ";" EMULATOR "${EMULATOR}")
 
-# Runs zfvec with the arguments; sets rc, out and err in the caller.
+# Runs zfvec with the arguments; sets rc, out and err in the caller (text
+# written on Windows ends its lines with CR LF: compared as LF).
 macro(zfvec)
-  execute_process(COMMAND ${ZFVEC} ${ARGN} WORKING_DIRECTORY ${WORK}
+  execute_process(COMMAND ${EMULATOR} ${ZFVEC} ${ARGN} WORKING_DIRECTORY ${WORK}
     RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  string(REPLACE "\r\n" "\n" out "${out}")
+  string(REPLACE "\r\n" "\n" err "${err}")
 endmacro()
 
 # The call fails with a non-zero status and exactly one line on standard
@@ -122,7 +127,7 @@ elseif(CASE STREQUAL "convert")
     message(FATAL_ERROR "unexpected info:\n${out}")
   endif()
   # standard input to standard output
-  execute_process(COMMAND ${ZFVEC} convert - - WORKING_DIRECTORY ${WORK}
+  execute_process(COMMAND ${EMULATOR} ${ZFVEC} convert - - WORKING_DIRECTORY ${WORK}
     INPUT_FILE ${WORK}/copy.vec OUTPUT_FILE ${WORK}/piped.vec RESULT_VARIABLE rc)
   if(NOT rc EQUAL 0)
     message(FATAL_ERROR "convert - - failed: ${rc}")
