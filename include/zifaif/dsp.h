@@ -833,6 +833,45 @@ ZF_API int ZF_CALL dspfd_rsmp(const dspf_vector *in, dspf_vector *out, int mode,
 ZF_API int ZF_CALL dspd_rsmp2 (const dsp_vector  *in, dsp_vector  *out, int mode, int which, double ratio, dsp_vector  *history);
 ZF_API int ZF_CALL dspfd_rsmp2(const dspf_vector *in, dspf_vector *out, int mode, int which, float  ratio, dspf_vector *history);
 
+/** The streaming resampler. Calling order: coef_init, coef_alloc, coef_setup;
+ * state_init, state_alloc, state_reset; dsph_rsmp per block; state_destroy,
+ * coef_destroy. Init, destroy, alloc and reset of a null record return 0.
+ * A ratio below 1 (more output samples) is kept whole as the fractional
+ * ratio: the field's 1 <= r < 2 holds only for ratios of 1 and above. */
+/** Empty vectors, zero fields. */
+ZF_API int ZF_CALL dsph_rsmp_coef_init (dsph_rsmp_coef  *coef);
+ZF_API int ZF_CALL dspfh_rsmp_coef_init(dspfh_rsmp_coef *coef);
+/** Releases the vectors, then as dsph_rsmp_coef_init. */
+ZF_API int ZF_CALL dsph_rsmp_coef_destroy (dsph_rsmp_coef  *coef);
+ZF_API int ZF_CALL dspfh_rsmp_coef_destroy(dspfh_rsmp_coef *coef);
+/** Fills the half-band filter, the prefilter and the kernel table; reserved must be null. */
+ZF_API int ZF_CALL dsph_rsmp_coef_alloc (dsph_rsmp_coef  *coef, void *reserved);
+ZF_API int ZF_CALL dspfh_rsmp_coef_alloc(dspfh_rsmp_coef *coef, void *reserved);
+/** Splits ratio (<= 0 taken as 1; not finite: -1) into octaves and the
+ * remaining ratio and sets the start-up skips; force runs the fractional
+ * stage even at 1; reserved must be null. */
+ZF_API int ZF_CALL dsph_rsmp_coef_setup (dsph_rsmp_coef  *coef, double ratio, int force, void *reserved);
+ZF_API int ZF_CALL dspfh_rsmp_coef_setup(dspfh_rsmp_coef *coef, float  ratio, int force, void *reserved);
+/** Empty vectors and arrays, zero counts. */
+ZF_API int ZF_CALL dsph_rsmp_state_init (dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp_state_init(dspfh_rsmp_state *state);
+/** Releases the vectors and the stage arrays, then as dsph_rsmp_state_init. */
+ZF_API int ZF_CALL dsph_rsmp_state_destroy (dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp_state_destroy(dspfh_rsmp_state *state);
+/** Sizes the state for the coefficient record and real (0) or complex input. */
+ZF_API int ZF_CALL dsph_rsmp_state_alloc (const dsph_rsmp_coef  *coef, dsph_rsmp_state  *state, int complex);
+ZF_API int ZF_CALL dspfh_rsmp_state_alloc(const dspfh_rsmp_coef *coef, dspfh_rsmp_state *state, int complex);
+/** Zeroes every history and phase and arms the start-up skips. */
+ZF_API int ZF_CALL dsph_rsmp_state_reset (const dsph_rsmp_coef  *coef, dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp_state_reset(const dspfh_rsmp_coef *coef, dspfh_rsmp_state *state);
+/** Resamples one block; out->points on entry is the number of samples wanted
+ * (at least the block's share, about points / ratio + 1, for a seamless
+ * stream) and the output is cut to it. Scratch and state may be null (a null
+ * state: a lone block, nothing dropped); the output may be the input. The
+ * coefficient record's filters must be real. */
+ZF_API int ZF_CALL dsph_rsmp (const dsp_vector  *in, dsp_vector  *out, dsp_vector  *scratch, const dsph_rsmp_coef  *coef, dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp(const dspf_vector *in, dspf_vector *out, dspf_vector *scratch, const dspfh_rsmp_coef *coef, dspfh_rsmp_state *state);
+
 /* ------------------------------------------------------------------------ */
 /* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
