@@ -601,17 +601,164 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
+/** One step of averaging: acc folds in the record in as record number count of a
+ * run. Flag 32 first replaces the input by its magnitude squared (in scratch, or
+ * a temporary when scratch is null or is one of the other records). count <= 1:
+ * acc becomes a copy. Else by mode = flags & 15: 0 copy, 1 weighted mean
+ * acc + w (in - acc), 2 maximum, 3 minimum, 4 harmonic and 5 geometric weighted
+ * mean, 6 copy when n == 1 or n > 0 and count mod n == 1, 7 .. 15 nothing.
+ * w = weight when >= 0, else 1/count, or with flag 16 1/limit once
+ * 0 < limit <= count. 0 or -1 (modes 4 and 5 run every step, -1 if any failed). */
+ZF_API int ZF_CALL dsph_avg (const dsp_vector  *in, dsp_vector  *acc, dsp_vector  *scratch, int flags, int count, int n, double weight, double limit);
+ZF_API int ZF_CALL dspfh_avg(const dspf_vector *in, dspf_vector *acc, dspf_vector *scratch, int flags, int count, int n, float  weight, float  limit);
+/** Correlation out[k] = (1/M) sum_{j < length} conj(a[j]) b[j + k] for
+ * k = 0 .. b points - length, halved when half is nonzero, through transforms of
+ * M points (the power of two >= b points); delta the mean of a's and b's.
+ * Mixed inputs: a real input with a complex one counts as complex with imaginary
+ * parts 0 and the result is complex. scratch receives b's transform (a temporary
+ * when null or when it is a or out). -1 when length < 1 or exceeds a or b. */
+ZF_API int ZF_CALL dsph_corr (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, dsp_vector  *scratch, int length, int half);
+ZF_API int ZF_CALL dspfh_corr(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, dspf_vector *scratch, int length, int half);
+/** dsph_corr with a temporary scratch record. */
+ZF_API int ZF_CALL dspb_corr (const dsp_vector  *a, const dsp_vector  *b, dsp_vector  *out, int length, int half);
+ZF_API int ZF_CALL dspfb_corr(const dspf_vector *a, const dspf_vector *b, dspf_vector *out, int length, int half);
+
 /* ------------------------------------------------------------------------ */
 /* Window catalogue and generation                                           */
 /* ------------------------------------------------------------------------ */
+
+/**
+ * Multiplies a real vector in place by the window of a kind 0 .. 24 in the
+ * normalisation of the low flag bits (DSP_WINFLAG_*), taken from the window
+ * cache of the precision (16 windows, replaced cyclically), then rotates the
+ * product left by points/2 unless DSP_WINFLAG_NO_ROTATE (kind 0: only with
+ * DSP_WINFLAG_ROTATE). With DSP_WINFLAG_WIDTH the window spans width samples
+ * (kind 0 and the cosine sums only). -1 for a complex vector, low flag bits 3,
+ * a kind outside 0 .. 24, a flag the kind refuses, or a failed allocation.
+ * A complex vector is refused for every kind, kind 0 included.
+ * Kind 0 without the width flag only rotates (or not), whatever the symmetric flag says.
+ * A width of N samples or more computes floor((N - 1)/2) samples each side and forces none to 0.
+ */
+ZF_API int ZF_CALL dspi_window2 (dsp_vector  *v, int kind, int flags, double width);
+ZF_API int ZF_CALL dspfi_window2(dspf_vector *v, int kind, int flags, float  width);
+/** dspi_window2 with width 0; DSP_WINFLAG_WIDTH gives -1. */
+ZF_API int ZF_CALL dspi_window (dsp_vector  *v, int kind, int flags);
+ZF_API int ZF_CALL dspfi_window(dspf_vector *v, int kind, int flags);
+/**
+ * Cosine-sum window sum_k a_k cos(2 pi k m / N) at distance m from the centre,
+ * with the caller's real coefficients a0, a1, ... used as given, then rotated.
+ * No short-length correction is applied: the coefficients define the window exactly.
+ */
+ZF_API int ZF_CALL dspi_window_cos (dsp_vector  *v, const dsp_vector  *coef);
+ZF_API int ZF_CALL dspfi_window_cos(dspf_vector *v, const dspf_vector *coef);
+/**
+ * Gaussian window exp(-m^2 / (2 (sigma L)^2)), L = N (periodic) or N - 1 (symmetric).
+ * The symmetric Gaussian, sinc and Tukey windows use N - 1 wherever the periodic ones use N.
+ * sigma 0 gives a unit impulse at the centre; DSP_WINFLAG_WIDTH gives -1 (as for all below).
+ */
+ZF_API int ZF_CALL dspi_window_gauss (dsp_vector  *v, double sigma, int flags);
+ZF_API int ZF_CALL dspfi_window_gauss(dspf_vector *v, float  sigma, int flags);
+/**
+ * Kaiser window I0(beta sqrt(1 - (2m/L)^2)), L = N or N - 1 (symmetric); |beta|
+ * limited to ln 1e200 (ln 1e100 for RMS normalisation); peak normalisation
+ * divides by I0(beta). A one-sample window is 1 in every normalisation.
+ */
+ZF_API int ZF_CALL dspi_window_kaiser (dsp_vector  *v, double beta, int flags);
+ZF_API int ZF_CALL dspfi_window_kaiser(dspf_vector *v, float  beta, int flags);
+/**
+ * (sin x / x)^power with x = 2 span m / L over [-span, span), 1 at x = 0.
+ * For a power other than 0, 1 and 2 a sample with sin x / x <= 0 is 0.
+ */
+ZF_API int ZF_CALL dspi_window_sinc (dsp_vector  *v, double span, double power, int flags);
+ZF_API int ZF_CALL dspfi_window_sinc(dspf_vector *v, float  span, float  power, int flags);
+/** Tukey window: 1 up to (1 - taper) L / 2 from the centre, a raised-cosine taper beyond. */
+ZF_API int ZF_CALL dspi_window_tukey (dsp_vector  *v, double taper, int flags);
+ZF_API int ZF_CALL dspfi_window_tukey(dspf_vector *v, float  taper, int flags);
+/**
+ * Window for FIR design, peak 1, symmetric, not rotated: kind 100 Gaussian of
+ * relative bandwidth param (param <= 0 leaves the vector unchanged), 101 Kaiser
+ * for transition width param, 102 and 103 sinc windows of width param, any
+ * other kind dspi_window with flags 38 (so the cosine sums and the triangle give -1).
+ */
+ZF_API int ZF_CALL dspi_window_fir (dsp_vector  *v, int kind, double param);
+ZF_API int ZF_CALL dspfi_window_fir(dspf_vector *v, int kind, float  param);
+/**
+ * Canonical short name of a kind into buffer (at most size bytes, always
+ * terminated); -1 with an empty string for a kind without a name, -1 for a
+ * null buffer or size < 1.
+ */
+ZF_API int ZF_CALL dsp_window_to_str (int kind, char *buffer, int size);
+ZF_API int ZF_CALL dspf_window_to_str(int kind, char *buffer, int size);
+/**
+ * Kind of a name, short or DSP_WINDOW_ form, compared case-insensitively over
+ * the whole text; -1 with kind 0 when nothing matches, -1 for null arguments.
+ */
+ZF_API int ZF_CALL dsp_window_from_str (const char *text, int *kind);
+ZF_API int ZF_CALL dspf_window_from_str(const char *text, int *kind);
 
 /* ------------------------------------------------------------------------ */
 /* Window scaling and noise bandwidth                                        */
 /* ------------------------------------------------------------------------ */
 
+/**
+ * Factor by which the window of kind, flags, points and width normalised as the
+ * flags ask exceeds the same window at peak 1: 1 for peak normalisation or
+ * points < 1; closed forms for the cosine sums and the triangle, the generated
+ * window measured otherwise (0 when its mean or RMS is 0). -1 for a null
+ * result, low flag bits 3, an unknown kind or a refused flag.
+ */
+ZF_API int ZF_CALL dsp_window2_scale (double *result, int kind, int flags, int points, double width);
+ZF_API int ZF_CALL dspf_window2_scale(float  *result, int kind, int flags, int points, float  width);
+/** dsp_window2_scale with width 0; DSP_WINFLAG_WIDTH gives -1. */
+ZF_API int ZF_CALL dsp_window_scale (double *result, int kind, int flags, int points);
+ZF_API int ZF_CALL dspf_window_scale(float  *result, int kind, int flags, int points);
+/** Equivalent noise bandwidth in bins of the periodic window: (mean scale / RMS scale)^2; result written only on success. */
+ZF_API int ZF_CALL dsp_window_enbw (double *result, int kind, int points);
+ZF_API int ZF_CALL dspf_window_enbw(float  *result, int kind, int points);
+/** The same for the window spanning width samples (DSP_WINFLAG_WIDTH). */
+ZF_API int ZF_CALL dsp_window2_enbw (double *result, int kind, int points, double width);
+ZF_API int ZF_CALL dspf_window2_enbw(float  *result, int kind, int points, float  width);
+
 /* ------------------------------------------------------------------------ */
 /* FIR design and filtering                                                  */
 /* ------------------------------------------------------------------------ */
+
+/** FIR design: points = M taps of kind 0-10 (DSP_FIR_*; frequencies in cycles
+ * per sample); a vector complex on entry gets complex taps with zero imaginary
+ * parts. -1 for an unknown kind, kinds 1 and 2 with even M, or a failed
+ * allocation. */
+ZF_API int ZF_CALL dspc_fir (dsp_vector  *fir, int kind, double f1, double f2);
+ZF_API int ZF_CALL dspfc_fir(dspf_vector *fir, int kind, float  f1, float  f2);
+/** Fixed half responses for dspd_sfir with odd = 1: which 100 (12 values), 101
+ * (20: a 39-tap lowpass, gain 1 to 0.2 and at most 0.00034 from 0.3 cycles
+ * per sample on), 102 (5); -1 for any other which. */
+ZF_API int ZF_CALL dspc_fir2 (dsp_vector  *fir, int which);
+ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
+/** Causal FIR filtering y[n] = sum h[k] x[n-k], output as long as the input
+ * (complex when the input or h is); state (or null for zeros) carries the
+ * last M-1 inputs, oldest first, so blocks join without a seam. Long real
+ * responses run by overlap-save FFT convolution with a cached coefficient
+ * transform keyed on the values and the transform length, which depends on
+ * M only, so streamed blocks equal one whole call up to rounding. M <= 0:
+ * the output is a copy. out may be in; -1 when in or out shares storage with
+ * state or out with h. */
+ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_fir(const dspf_vector *in, dspf_vector *out, const dspf_vector *h, dspf_vector *state);
+/** dspd_fir with the response expanded from half: 2H taps, or 2H-1 with odd
+ * (the last half sample is the shared centre), the mirrored taps negated with
+ * negate; with odd and negate the centre tap keeps its sign ([1, 2] gives
+ * [1, 2, -1]). H <= 0: the output is a copy. */
+ZF_API int ZF_CALL dspd_sfir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *half, int odd, int negate, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_sfir(const dspf_vector *in, dspf_vector *out, const dspf_vector *half, int odd, int negate, dspf_vector *state);
+/** Hardware-filter model, kind 0 only (else -1): four sections
+ * (0.25 + 0.5z^-1 + 0.5z^-2 + 0.25z^-3)/(1 + 0.5z^-2); state holds the 12
+ * cells, null uses the library's default history, which persists between
+ * calls. out may be in; -1 when in or out shares storage with the history. */
+ZF_API int ZF_CALL dspd_hwfilt (const dsp_vector  *in, dsp_vector  *out, int kind, dsp_vector  *state);
+ZF_API int ZF_CALL dspfd_hwfilt(const dspf_vector *in, dspf_vector *out, int kind, dspf_vector *state);
+/** dspd_hwfilt(v, v, kind, null): in place, continuing the default history. */
+ZF_API int ZF_CALL dspi_hwfilt (dsp_vector  *v, int kind);
+ZF_API int ZF_CALL dspfi_hwfilt(dspf_vector *v, int kind);
 
 /* ------------------------------------------------------------------------ */
 /* Decimation and resampling                                                 */
