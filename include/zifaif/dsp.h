@@ -616,7 +616,8 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
  * Forward: M = the power of two >= points (points < 1: the input's points);
  * the first round(L) samples, L = min(M fraction, input points), fraction
  * outside (0, 1] counting as 1, are windowed with mean normalisation over width
- * L (kinds without a width, 1 and 14 .. 24, span the selection), scaled by 2,
+ * L (kinds without a width, 1 and 14 .. 24, span the selection; a complex
+ * record is windowed part by part with the same real window), scaled by 2,
  * zero-padded to M (rescaled by M/L unless flag 4) and transformed: a real input
  * gives M/2 + 1 bins, else M bins with DC in the middle.
  * Inverse: points < 1 means 2 (input points) - 2 for a real result, else the
