@@ -774,9 +774,10 @@ ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
 /** Causal FIR filtering y[n] = sum h[k] x[n-k], output as long as the input
  * (complex when the input or h is); state (or null for zeros) carries the
  * last M-1 inputs, oldest first, so blocks join without a seam. Long real
- * responses run by overlap-save FFT convolution with a cached coefficient
- * transform keyed on the values and the transform length, which depends on
- * M only, so streamed blocks equal one whole call up to rounding. M <= 0:
+ * responses (M >= 46, 36 on complex input, M-1 <= N) run by overlap-save
+ * FFT convolution; its cached coefficient transform is keyed on the values
+ * and the transform length, so streamed blocks of any sizes equal one whole
+ * call up to rounding. M <= 0:
  * the output is a copy. out may be in; -1 when in or out shares storage with
  * state or out with h. */
 ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
