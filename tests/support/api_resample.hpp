@@ -39,6 +39,5 @@ template <class T> struct Resampler {
         : status(coef_alloc(&c) | coef_setup(&c, ratio, force, nullptr) | state_start(&c, &s, complex)) {}
     ~Resampler() { release(&c, &s); }
     int run(const zf::Vec<T>* i, zf::Vec<T>* o, zf::Vec<T>* sc = nullptr) { return hrsmp(i, o, sc, &c, &s); }
-    int lone(const zf::Vec<T>* i, zf::Vec<T>* o) { return hrsmp(i, o, nullptr, &c, nullptr); }
 };
 }  // namespace api

@@ -3,9 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
-#include <random>
-#include <vector>
 
 #include "support/vectors.hpp"
 
@@ -24,37 +21,29 @@ template <class T, class Call> std::vector<T> stream(const std::vector<T>& x, in
     return got;
 }
 
-// Table resampling of x (n samples of w scalars) with K carried samples hist
-// and start position mu: output = sum_j s(i + j) T(Q (j - mu)), T read at the
-// integer part of u (mode 0) or interpolated linearly (mode 1).
+// Table resampling of x (w scalars a sample, zeros before it) from position
+// 0: output = sum_j s(i + j) T(Q (j - mu)), T read at the integer part of u
+// (mode 0) or interpolated linearly (mode 1); the input ends the run.
 template <class T>
-std::vector<double> ref_rsmp(const std::vector<T>& x, int w, const std::vector<T>& hist, T mu, const T* tab,
-                             int k, int q, int mode, T ratio, int cap) {
+std::vector<double> ref_rsmp(const std::vector<T>& x, int w, const T* tab, int k, int q, int mode, T ratio) {
     const long n = static_cast<long>(x.size()) / w;
-    auto s = [&](long m, int c) { return static_cast<double>(m < 0 ? hist[(k + m) * w + c] : x[m * w + c]); };
     std::vector<double> y;
-    long i = -k;
-    for (int out = 0; out < cap; ++out) {
-        while (mu > 0) { mu -= 1; ++i; }
-        if (i > n - k) break;
+    T mu = 0;
+    for (long i = -k;; mu += ratio) {
+        while (mu > 0) mu -= 1, ++i;
+        if (i > n - k) return y;
         for (int c = 0; c < w; ++c) {
             double acc = 0;
             for (int j = 0; j < k; ++j) {
                 const T u = static_cast<T>(q) * (static_cast<T>(j) - mu);  // in the twin's precision
-                const long a = static_cast<long>(std::floor(u));
+                const long a = static_cast<long>(u);
                 const double t = mode == 0 ? tab[1 + a] : tab[1 + a] + (u - a) * (tab[2 + a] - tab[1 + a]);
-                acc += s(i + j, c) * t;
+                acc += (i + j < 0 ? 0.0 : static_cast<double>(x[(i + j) * w + c])) * t;
             }
             y.push_back(acc);
         }
-        mu += ratio;
     }
-    return y;
 }
-
-}  // namespace zt
-
-namespace zt {
 
 // Signal-to-noise ratio in dB of y from index skip on against the sine of f
 // cycles per sample whose amplitude (into amp) and phase fit y best.
