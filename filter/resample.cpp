@@ -3,6 +3,8 @@
 // the K samples where the next kernel window starts and that position.
 #include "filter/resample.hpp"
 
+#include "filter/fir.hpp"
+
 #include <cstdint>
 #include <cstring>
 
@@ -82,7 +84,7 @@ int rsmp(const Vec<T>* in, Vec<T>* out, int mode, const Vec<T>* kernel, T ratio,
     const T delta = in->delta;
     T mu = T(0);
     if (history) {
-        if (size_history<T>(history, *in, k + 2) != 0) return -1;
+        if (prepare_history<T>(history, *in, k + 2) != 0) return -1;
         mu = history->data[static_cast<std::size_t>(k) * w];
         if (!(mu > T(-1)) || !std::isfinite(mu)) return -1;
     }
