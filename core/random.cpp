@@ -19,17 +19,29 @@ unsigned time_seed() noexcept {
     h ^= where + 0x9E3779B9ull + (h << 6) + (h >> 2);
     return static_cast<unsigned>(h ^ (h >> 32));
 }
-}  // namespace
 
-std::int32_t random31() noexcept {
+void seed_once() noexcept {
     if (!seeded) {
         std::srand(time_seed());
         seeded = true;
     }
+}
+}  // namespace
+
+std::int32_t random31() noexcept {
+    seed_once();
     const std::int32_t r1 = std::rand() & 0x7FFF;
     const std::int32_t r2 = std::rand() & 1;
     const std::int32_t r3 = std::rand() & 0x7FFF;
     return r1 * 65536 + r2 * 32768 + r3;
+}
+
+double random_uniform() noexcept {
+    seed_once();
+    constexpr double step = 1.0 / 32768.0;
+    double u = 0.0;
+    for (int k = 0; k < 4; ++k) u = (u + (std::rand() & 0x7FFF)) * step;
+    return u < 1.0 ? u : 1.0 - 0x1p-53;
 }
 
 void random_seed(unsigned seed) noexcept {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/unary.hpp"
 
 namespace zf {
@@ -21,8 +22,10 @@ template <class T> inline void complex_sqrt(T& re, T& im) noexcept {
         return;
     }
     const T theta = std::atan2(im, re) / T(2);
-    re = r * std::cos(theta);
-    im = r * std::sin(theta);
+    T s, c;
+    libm::sincos(theta, &s, &c);
+    re = r * c;
+    im = r * s;
 }
 
 }  // namespace

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/unary.hpp"
+#include "elementwise/vmath.hpp"
 
 namespace zf {
 
@@ -18,14 +20,37 @@ template <class T> inline T pair_phase(T re, T im) noexcept {
 template <class T> inline T real_mag(T x) noexcept { return std::fabs(x); }
 template <class T> inline T pair_mag(T re, T im) noexcept { return std::hypot(re, im); }
 
-// One-input operation with a real result into dst (dst may be src).
-template <class T, class G, class F> int real_into(const Vec<T>* src, Vec<T>* dst, G g, F f) noexcept {
+// The block kernel of an operation from pairs to reals, or null.
+template <class T> using PackFn = void (*)(const T*, T*, std::size_t) noexcept;
+template <class T> PackFn<T> mag_kernel() noexcept {
+    const VecMath<T>* k = vecmath<T>();
+    return k ? k->mag : nullptr;
+}
+template <class T> PackFn<T> phase_kernel() noexcept {
+    const VecMath<T>* k = vecmath<T>();
+    return k ? k->phase : nullptr;
+}
+
+// A real result in place as to_real does, the pairs by the block kernel when there is one.
+template <class T, class G, class F> int to_real_by(Vec<T>* v, PackFn<T> block, G g, F f) noexcept {
+    if (block && readable<T>(v) && v->complex && v->points > 0) {
+        block(v->data, v->data, static_cast<std::size_t>(v->points));
+        v->complex = 0;
+        return 0;
+    }
+    return to_real<T>(v, g, f);
+}
+
+// One-input operation with a real result into dst (dst may be src); pairs by
+// the block kernel when there is one.
+template <class T, class G, class F> int real_into(const Vec<T>* src, Vec<T>* dst, G g, F f, PackFn<T> block) noexcept {
     if (!readable<T>(src)) return -1;
     const bool complex = src->complex != 0;
     const T* in = nullptr;
     if (size_output<T>(src, dst, 0, &in) != 0) return -1;
     const std::size_t n = static_cast<std::size_t>(dst->points);
-    if (complex) pack_pairs(in, dst->data, n, f);
+    if (complex && block) block(in, dst->data, n);
+    else if (complex) pack_pairs(in, dst->data, n, f);
     else map_scalars(in, dst->data, n, g);
     return 0;
 }
@@ -51,10 +76,16 @@ template <class T> int rtop(Vec<T>* v) noexcept {
 template <class T> int ptor(Vec<T>* v) noexcept {
     if (!readable<T>(v)) return -1;
     if (!v->complex) return 0;
+    if (const VecMath<T>* k = vecmath<T>()) {
+        k->polar(v->data, static_cast<std::size_t>(v->points));
+        return 0;
+    }
     map_pairs(v->data, v->data, static_cast<std::size_t>(v->points), [](T& re, T& im) {
-        const T m = re, phi = im;
-        re = m * std::cos(phi);
-        im = m * std::sin(phi);
+        const T m = re;
+        T s, c;
+        libm::sincos(im, &s, &c);
+        re = m * c;
+        im = m * s;
     });
     return 0;
 }
@@ -72,15 +103,19 @@ template <class T> int imag(Vec<T>* v) noexcept {
     return to_real<T>(v, [](T) { return T(0); }, [](T, T im) { return im; });
 }
 
-template <class T> int mag(Vec<T>* v) noexcept { return to_real<T>(v, [](T x) { return real_mag(x); }, [](T re, T im) { return pair_mag(re, im); }); }
+template <class T> int mag(Vec<T>* v) noexcept {
+    return to_real_by<T>(v, mag_kernel<T>(), [](T x) { return real_mag(x); }, [](T re, T im) { return pair_mag(re, im); });
+}
 template <class T> int magsq(Vec<T>* v) noexcept { return to_real<T>(v, [](T x) { return saturated_square(x); }, [](T re, T im) { return saturated_norm(re, im); }); }
-template <class T> int phase(Vec<T>* v) noexcept { return to_real<T>(v, [](T x) { return real_phase(x); }, [](T re, T im) { return pair_phase(re, im); }); }
+template <class T> int phase(Vec<T>* v) noexcept {
+    return to_real_by<T>(v, phase_kernel<T>(), [](T x) { return real_phase(x); }, [](T re, T im) { return pair_phase(re, im); });
+}
 
 template <class T> int mag(const Vec<T>* src, Vec<T>* dst) noexcept {
-    return real_into<T>(src, dst, [](T x) { return real_mag(x); }, [](T re, T im) { return pair_mag(re, im); });
+    return real_into<T>(src, dst, [](T x) { return real_mag(x); }, [](T re, T im) { return pair_mag(re, im); }, mag_kernel<T>());
 }
 template <class T> int magsq(const Vec<T>* src, Vec<T>* dst) noexcept {
-    return real_into<T>(src, dst, [](T x) { return saturated_square(x); }, [](T re, T im) { return saturated_norm(re, im); });
+    return real_into<T>(src, dst, [](T x) { return saturated_square(x); }, [](T re, T im) { return saturated_norm(re, im); }, PackFn<T>(nullptr));
 }
 
 template int rtoc<double>(Vec<double>*) noexcept;

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/unary.hpp"
+#include "elementwise/vmath.hpp"
 
 namespace zf {
 
@@ -11,10 +13,12 @@ namespace {
 // The two logarithms share one plan; they differ in the function and in the
 // scale of the angle that forms the imaginary part of a complex logarithm.
 struct Natural {
+    static constexpr bool decimal = false;
     template <class T> static T of(T x) noexcept { return std::log(x); }
     template <class T> static T angle_scale() noexcept { return T(1); }
 };
 struct Decimal {
+    static constexpr bool decimal = true;
     template <class T> static T of(T x) noexcept { return std::log10(x); }
     template <class T> static T angle_scale() noexcept { return Traits<T>::log10_e; }
 };
@@ -28,8 +32,13 @@ template <class Log, class T> int logarithm(Vec<T>* v, T factor) noexcept {
     const T tiny = Traits<T>::tiny;
     const T floor = factor * Log::template of<T>(tiny);
     T* d = v->data;
+    const VecMath<T>* kernels = vecmath<T>();
     if (v->complex) {
         const T angle = factor * Log::template angle_scale<T>();
+        if (kernels) {
+            kernels->log_pairs(d, static_cast<std::size_t>(v->points), factor, floor, angle, Log::decimal);
+            return 0;
+        }
         map_pairs(d, d, static_cast<std::size_t>(v->points), [=](T& re, T& im) {
             const T a = clamp_huge(re), b = clamp_huge(im);
             const T p = a * a + b * b;
@@ -41,6 +50,8 @@ template <class Log, class T> int logarithm(Vec<T>* v, T factor) noexcept {
                 im = T(0);
             }
         });
+    } else if (kernels) {
+        kernels->log(d, scalars<T>(*v), factor, floor, Log::decimal);
     } else {
         map_scalars(d, d, scalars<T>(*v), [=](T x) { return x >= tiny ? factor * Log::template of<T>(x) : floor; });
     }
@@ -58,9 +69,13 @@ template <class T> int exp(Vec<T>* v) noexcept {
     if (v->complex) {
         map_pairs(d, d, static_cast<std::size_t>(v->points), [](T& re, T& im) {
             const T m = guarded_exp(re);
-            re = m * std::cos(im);
-            im = m * std::sin(im);
+            T s, c;
+            libm::sincos(im, &s, &c);
+            re = m * c;
+            im = m * s;
         });
+    } else if (const VecMath<T>* kernels = vecmath<T>()) {
+        kernels->exp(d, scalars<T>(*v));
     } else {
         map_scalars(d, d, scalars<T>(*v), [](T x) { return guarded_exp(x); });
     }
@@ -78,9 +93,10 @@ template <class T> int exp10(Vec<T>* v) noexcept {
     if (v->complex) {
         map_pairs(d, d, static_cast<std::size_t>(v->points), [=](T& re, T& im) {
             const T m = re > limit ? huge : (re < -huge ? -huge : std::exp(re * ln10));
-            const T phi = im * ln10;
-            re = m * std::cos(phi);
-            im = m * std::sin(phi);
+            T s, c;
+            libm::sincos(im * ln10, &s, &c);
+            re = m * c;
+            im = m * s;
         });
     } else {
         const std::size_t n = scalars<T>(*v);

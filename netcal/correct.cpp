@@ -1,6 +1,7 @@
 #include "netcal/correct.hpp"
 
 #include "core/control.hpp"
+#include "core/cpu.hpp"
 
 namespace zf {
 
@@ -119,12 +120,7 @@ int correct_2port(const TwoPortArrays& t, int start, int stop) noexcept {
     return stop - start;
 }
 
-#if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
-bool have_avx2() noexcept { return __builtin_cpu_supports("avx2"); }
-bool have_avx512() noexcept { return __builtin_cpu_supports("avx512f"); }
-#else
-bool have_avx2() noexcept { return false; }
-bool have_avx512() noexcept { return false; }
-#endif
+bool have_avx2() noexcept { return cpu_has_avx2_fma(); }
+bool have_avx512() noexcept { return cpu_has_avx512(); }
 
 }  // namespace zf

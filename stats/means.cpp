@@ -1,6 +1,7 @@
 // Geometric and harmonic means.
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "stats/descriptive.hpp"
 #include "stats/reduce.hpp"
 
@@ -38,7 +39,9 @@ template <class T> int gmean(const Vec<T>* in, Vec<T>* out) noexcept {
     if (!(q >= tiny)) return put<T>(out, in->complex, A(0), A(0));
     const A mag = std::exp(std::log(q) / (2 * A(n)));
     const A phi = std::atan2(pi, pr) / n;
-    return put<T>(out, in->complex, mag * std::cos(phi), mag * std::sin(phi));
+    A s, c;
+    libm::sincos(phi, &s, &c);
+    return put<T>(out, in->complex, mag * c, mag * s);
 }
 
 // n divided by the sum of the reciprocals. Real: a zero sample makes the

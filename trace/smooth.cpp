@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "core/vector.hpp"
 
 namespace zf {
@@ -139,8 +140,10 @@ template <class T> int smooth_cpx(const T* src, T* dst, int total, int start, in
         }
         const double m = sum_mag / static_cast<double>(size), a = sum_ang / static_cast<double>(size);
         T* out = dst + 2 * static_cast<long long>(i);
-        out[0] = static_cast<T>(m * std::cos(a));
-        out[1] = static_cast<T>(m * std::sin(a));
+        double s, c;
+        libm::sincos(a, &s, &c);
+        out[0] = static_cast<T>(m * c);
+        out[1] = static_cast<T>(m * s);
     }
     return i - start;
 }

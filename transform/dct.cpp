@@ -3,10 +3,12 @@
 // odd ones in reverse make V[k] = Σ v[n] e^(-j2πnk/N) with
 // y[k] = Re(e^(-jπk/(2N)) V[k]), and y[N - k] follows from the same bin.
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
 #include "core/cache.hpp"
+#include "core/libm.hpp"
 #include "transform/dft.hpp"
 #include "transform/fft.hpp"
 
@@ -32,8 +34,8 @@ template <class T> int release_dct() noexcept {
 }
 
 // Makes the staging vector hold n scalars and the twiddles serve length n.
-// The twiddles advance by the rotation recurrence in double, re-seeded with
-// exact cos and sin every 256 steps, and are rounded to T once.
+// The twiddles cos and sin of πk/(2n) come from the library's own sine and
+// cosine of k/(4n) of a turn, rounded to T once.
 template <class T> int prepare_dct(int n) noexcept {
     DctState<T>& s = dct_state<T>;
     register_cache<T>(CacheSlot::dct, &release_dct<T>);
@@ -46,18 +48,9 @@ template <class T> int prepare_dct(int n) noexcept {
     s.n = 0;
     s.table = static_cast<T*>(std::malloc(2 * static_cast<std::size_t>(half) * sizeof(T)));
     if (!s.table) return -1;
-    const double step = 3.141592653589793 / (2.0 * n);
-    const double cd = std::cos(step), sd = std::sin(step);
-    double c = 1, si = 0;
     for (int k = 0; k < half; ++k) {
-        if (k % 256 == 0) {
-            c = std::cos(k * step);
-            si = std::sin(k * step);
-        } else {
-            const double cn = c * cd - si * sd;
-            si = c * sd + si * cd;
-            c = cn;
-        }
+        double c, si;
+        libm::sincos_turn(k, 4 * static_cast<std::int64_t>(n), &si, &c);
         s.table[2 * k] = static_cast<T>(c);
         s.table[2 * k + 1] = static_cast<T>(si);
     }

@@ -10,27 +10,14 @@
 #include <cstring>
 
 #include "core/cache.hpp"
+#include "core/libm.hpp"
 #include "transform/fft.hpp"
 
 namespace zf {
 namespace {
 
-// cos and sin of 2πp/L for an integer p in [0, L), to about one unit in the
-// last place: the angle is folded into [0, π/4] with integer arithmetic, in
-// units of 1/(8L) of a turn, before sin and cos are taken.
-void unit_root(std::int64_t p, std::int64_t L, double& c, double& s) noexcept {
-    std::int64_t a = 8 * p;
-    double sign_s = 1, sign_c = 1;
-    if (a > 4 * L) { a = 8 * L - a; sign_s = -1; }   // lower half: sin(2π - θ) = -sin θ
-    if (a > 2 * L) { a = 4 * L - a; sign_c = -1; }   // second quadrant: cos(π - θ) = -cos θ
-    bool swap = false;
-    if (a > L) { a = 2 * L - a; swap = true; }       // second octant: cos(π/2 - θ) = sin θ
-    const double t = 0.7853981633974483 * (static_cast<double>(a) / static_cast<double>(L));
-    double cr = std::cos(t), sr = std::sin(t);
-    if (swap) { const double x = cr; cr = sr; sr = x; }
-    c = sign_c * cr;
-    s = sign_s * sr;
-}
+// cos and sin of 2πp/L for an integer p in [0, L), within about half an ulp.
+void unit_root(std::int64_t p, std::int64_t L, double& c, double& s) noexcept { libm::sincos_turn(p, L, &s, &c); }
 
 // The process-wide chirp-z state of one precision: complete once n is set,
 // only read by the transforms afterwards (a change of direction rewrites it

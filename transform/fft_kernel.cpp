@@ -1,6 +1,7 @@
 // Portable kernels of the FFT engine and the run-time choice among them.
 #include "transform/fft_kernel.hpp"
 
+#include "core/cpu.hpp"
 #include "transform/tables.hpp"
 
 namespace zf {
@@ -80,14 +81,7 @@ template <class T> void dif_portable(T* x, std::ptrdiff_t n, const T* tw, std::p
 }
 
 namespace {
-bool has_avx2() noexcept {
-#if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
-    __builtin_cpu_init();
-    return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma");
-#else
-    return false;
-#endif
-}
+bool has_avx2() noexcept { return cpu_has_avx2_fma(); }
 template <class T> VectorDifFn<T> choose() noexcept {
     if (has_avx2()) return static_cast<VectorDifFn<T>>(&dif_avx2);
     return nullptr;

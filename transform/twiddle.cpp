@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "core/cache.hpp"
+#include "core/libm.hpp"
 #include "core/vector.hpp"
 #include "transform/tables.hpp"
 
@@ -19,11 +20,18 @@ template <class T> struct Levels {
 };
 template <class T> Levels<T> levels;
 
-// Writes one triple (cos t, -cos t - sin t, sin t - cos t), each rounded once.
-template <class T> void put(T* e, long double c, long double s) noexcept {
+// a + b rounded once from the double-doubles (a, al) and (b, bl).
+inline double sum_dd(double a, double al, double b, double bl) noexcept {
+    const double s = a + b, bp = s - a;
+    return s + (((a - (s - bp)) + (b - bp)) + (al + bl));
+}
+
+// Writes one triple (cos t, -cos t - sin t, sin t - cos t) from cos t and sin t
+// as double-doubles, each value formed before its one rounding.
+template <class T> void put(T* e, double c, double cl, double s, double sl) noexcept {
     e[0] = static_cast<T>(c);
-    e[1] = static_cast<T>(-c - s);
-    e[2] = static_cast<T>(s - c);
+    e[1] = static_cast<T>(sum_dd(-c, -cl, -s, -sl));
+    e[2] = static_cast<T>(sum_dd(s, sl, -c, -cl));
 }
 
 // The table of length n (n a power of two, n > 2) in 3n/2 scalars.
@@ -36,24 +44,13 @@ template <class T> T* build(int n) noexcept {
     for (int i = 0; i < 6; ++i) t[i] = first[i];
 
     // First triples: entries 1 .. mid-1 from the front and their mirrors
-    // q-1 .. mid+1 from the back, by the rotation recurrence, re-seeded with
-    // exact values every 256 steps. The arithmetic runs in long double and each
-    // value is rounded to T once.
-    const long double pi = 3.141592653589793238462643383279502884L;
-    const long double step = 2 * pi / n;
-    const long double cd = std::cos(step), sd = std::sin(step);
-    long double c = 1, s = 0;
+    // q-1 .. mid+1 from the back, each from the library's own sine and cosine
+    // of j/n of a turn, carried in double-double and rounded to T once.
     for (int j = 1; j < mid; ++j) {
-        if ((j - 1) % 256 == 0) {
-            c = std::cos(step * j);
-            s = std::sin(step * j);
-        } else {
-            const long double c2 = c * cd - s * sd;
-            s = c * sd + s * cd;
-            c = c2;
-        }
-        put<T>(t + 6 * j, c, s);
-        put<T>(t + 6 * (q - j), s, c);   // angle pi/2 - t: cos and sin exchange
+        double c, cl, s, sl;
+        libm::sincos_turn(j, n, &s, &c, &sl, &cl);
+        put<T>(t + 6 * j, c, cl, s, sl);
+        put<T>(t + 6 * (q - j), s, sl, c, cl);   // angle pi/2 - t: cos and sin exchange
     }
     if (n > 4) {
         T* e = t + 6 * mid;

@@ -154,8 +154,7 @@ TYPED_TEST(FilesTest, BinaryLayoutAndHeaderChecks) {
     Owned<T> v(std::vector<T>{T(1.5), T(-2.25)}, false, T(0.5));
     Scratch s;
     ASSERT_EQ(api::fwrite(v.get(), s.f), 0);
-    EXPECT_EQ(s.contents(), Bytes{}.word(0xEB0330BE).word(size == 8 ? 1032 : 1028).word(2).word(0)
-                                .scalar(size, 0.5).scalar(size, 1.5).scalar(size, -2.25).s);
+    EXPECT_EQ(s.contents(), binary_file(Header::sized, false, size, 2, 0, 0.5, {1.5, -2.25}));
     EXPECT_EQ(written(v, 0), s.contents());
     const auto file = [](std::uint32_t magic, std::uint32_t size_word) {
         return Bytes{}.word(magic).word(size_word).word(1).word(0).scalar(8, 1).scalar(8, 2).s;
@@ -213,28 +212,6 @@ TYPED_TEST(FilesTest, AbsurdCountInShortFileFailsWithoutHugeAllocation) {
 #endif
 }
 
-// Random bytes, with and without a valid-looking start, never crash the
-// reader and always leave a usable record.
-TYPED_TEST(FilesTest, RandomBytesNeverBreakTheReader) {
-    using T = TypeParam;
-    std::mt19937 gen(11);
-    const char alphabet[] = "0123456789+-.eExX#DSP pointscomplexdelta=\n\t,;abcnif";
-    for (int trial = 0; trial < 1500; ++trial) {
-        const int len = static_cast<int>(gen() % 80), kind = trial % 3;
-        std::string s;
-        if (kind == 0) s = binary_file(Header::sized, trial % 2, trial % 4 < 2 ? 8 : 4, 3, 0, 1.0, {1, 2, 3}).substr(0, 8 + gen() % 16);
-        for (int i = 0; i < len; ++i) s += kind == 2 ? alphabet[gen() % (sizeof alphabet - 1)] : static_cast<char>(gen() & 0xFF);
-        Scratch h(s);
-        Owned<T> v;
-        for (int reads = 0, r = 1; reads < 100 && r == 1; ++reads) {
-            r = api::fread(v.get(), h.f);
-            ASSERT_TRUE(r == -1 || r == 0 || r == 1);
-            ASSERT_TRUE(zf::readable<T>(&v.v)) << trial;
-            ASSERT_TRUE(v.v.complex == 0 || v.v.complex == 1);
-        }
-    }
-}
-
 TYPED_TEST(FilesTest, AsciiAndSummaryText) {
     using T = TypeParam;
     const bool dbl = std::is_same_v<T, double>;
@@ -285,19 +262,14 @@ TYPED_TEST(FilesTest, Fwrite2FlagsSelectFormAndParts) {
 
 TYPED_TEST(FilesTest, RejectsBadArguments) {
     using T = TypeParam;
-    Scratch s;
+    static Scratch s;  // reachable from the lambdas
     Owned<T> v(std::vector<T>{T(1)});
     EXPECT_EQ(api::fwrite(v.get(), nullptr), -1);
-    EXPECT_EQ(api::fwrite(static_cast<Vec<T>*>(nullptr), s.f), -1);
     EXPECT_EQ(api::fread(v.get(), nullptr), -1);
     EXPECT_EQ(api::fread(static_cast<Vec<T>*>(nullptr), s.f), -1);
-    Vec<T> broken = v.v;
-    broken.data = nullptr;
-    broken.alloc = 0;
-    EXPECT_EQ(api::fwrite_ascii(&broken, s.f), -1);
-    broken = v.v;
-    broken.points = -1;
-    EXPECT_EQ(api::fwrite2(&broken, s.f, 2), -1);
+    expect_refuses_unreadable<T>([](Vec<T>* r) { return api::fwrite(r, s.f); });
+    expect_refuses_unreadable<T>([](Vec<T>* r) { return api::fwrite_ascii(r, s.f); });
+    expect_refuses_unreadable<T>([](Vec<T>* r) { return api::fwrite2(r, s.f, 2); });
     EXPECT_EQ(s.contents(), "");
 }
 

@@ -1,6 +1,5 @@
 #include <cmath>
 
-#include "elementwise/bessel.hpp"
 #include "support/api_arith.hpp"
 #include "support/arith_ref.hpp"
 
@@ -11,6 +10,9 @@ template <class T> class SpecialTest : public ::testing::Test {};
 TYPED_TEST_SUITE(SpecialTest, Precisions);
 
 TYPED_TEST(SpecialTest, MatchesReferenceOnRandomVectors) {
+#if defined(_WIN32)
+    GTEST_SKIP() << "the Windows C runtime has no long-double j0l, j1l, y0l, y1l to serve as reference";
+#else
     using T = TypeParam;
     const double i0_range = sizeof(T) == 4 ? 30 : 200;
     check_all<T>({
@@ -20,31 +22,15 @@ TYPED_TEST(SpecialTest, MatchesReferenceOnRandomVectors) {
         real_only<T>("besy1", api::besy1, [](LD x) { return x > 0 ? y1l(x) : 0; }, -5, 30, 64),
         real_only<T>("besi0", api::besi0, ref::besi0<T>, -i0_range, i0_range, 16),
     });
-}
-
-// The shared evaluation against the series in extended precision, on both
-// sides of the switch to the asymptotic form at 20.
-TEST(BesselI0, AgreesWithTheSeriesAcrossTheWholeRange) {
-    for (double x = 0; x <= 230; x += 0.37) {
-        const LD want = ref::bessel_i0(x);
-        EXPECT_NEAR(zf::bessel_i0(x) / want, 1.0L, 1e-14) << x;
-        EXPECT_EQ(zf::bessel_i0(-x), zf::bessel_i0(x));
-    }
-    EXPECT_EQ(zf::bessel_i0(0), 1.0);
-    EXPECT_NEAR(zf::bessel_i0(20.000001) / zf::bessel_i0(20), 1.0, 2e-6);
+#endif
 }
 
 TYPED_TEST(SpecialTest, GuardsAndZeroArguments) {
     using T = TypeParam;
-    const T above = sizeof(T) == 4 ? T(35) : T(231);
-    Owned<T> i({T(0), above, -above});
-    ASSERT_EQ(api::besi0(i.get()), 0);
-    EXPECT_EQ(i.scalars(), (std::vector<T>{T(1), Traits<T>::huge, Traits<T>::huge}));
-    Owned<T> y({T(0), T(-1)});
-    ASSERT_EQ(api::besy0(y.get()), 0);
-    EXPECT_EQ(y.scalars(), (std::vector<T>{T(0), T(0)}));
-    ASSERT_EQ(api::besy1(y.get()), 0);
-    EXPECT_EQ(y.scalars(), (std::vector<T>{T(0), T(0)}));
+    const T above = sizeof(T) == 4 ? T(35) : T(231), huge = Traits<T>::huge;
+    check_hand<T>({{api::besi0, {0, above, -above}, false, {1, huge, huge}},
+                   {api::besy0, {0, -1}, false, {0, 0}},
+                   {api::besy1, {0, -1}, false, {0, 0}}});
 }
 
 TYPED_TEST(SpecialTest, ReservedEntryPointsChangeNothing) {

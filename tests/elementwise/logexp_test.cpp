@@ -29,52 +29,30 @@ TYPED_TEST(LogExpTest, MatchesReferenceOnRandomVectors) {
     });
 }
 
-TYPED_TEST(LogExpTest, ExpSaturatesAboveItsLimit) {
-    using T = TypeParam;
-    const T huge = Traits<T>::huge;
-    const T above = sizeof(T) == 4 ? T(35) : T(231);  // just past ln(huge)
-    Owned<T> v({above, Traits<T>::exp_limit, T(0)});
-    ASSERT_EQ(api::exp(v.get()), 0);
-    const auto got = v.scalars();
-    EXPECT_EQ(got[0], huge);
-    EXPECT_NEAR(got[1] / huge, 1.0, 1e-5);  // the limit itself is still computed
-    EXPECT_EQ(got[2], T(1));
-    Owned<T> c({above, T(0)}, true);
-    ASSERT_EQ(api::exp(c.get()), 0);
-    EXPECT_EQ(c.scalars(), (std::vector<T>{huge, T(0)}));
-}
-
-TYPED_TEST(LogExpTest, DecibelsOfZeroNegativeAndTinyUseTheFloor) {
-    using T = TypeParam;
-    const LD tiny = sizeof(T) == 4 ? 1.1754943508222875e-38L : 2.2250738585072014e-308L;
-    const double floor20 = static_cast<double>(20 * std::log10(tiny));
-    const T denormal = Traits<T>::tiny / T(4);
-    Owned<T> v({T(0), T(-1), T(1), Traits<T>::tiny, denormal, T(100)});
-    ASSERT_EQ(api::db(v.get(), T(20)), 0);
-    EXPECT_TRUE(near_all(v.scalars(), std::vector<double>{floor20, floor20, 0, floor20, floor20, 40}, tol<T>()));
-    // the complex origin, and parts beyond the guard clamped before squaring
-    const T huge = Traits<T>::huge;
-    Owned<T> c({T(0), T(0), T(-0.0), denormal, huge * T(8), T(0)}, true);
-    ASSERT_EQ(api::db(c.get(), T(20)), 0);
-    const double huge_db = static_cast<double>(20 * std::log10(static_cast<LD>(huge)));
-    EXPECT_TRUE(near_all(c.scalars(), std::vector<double>{floor20, 0, floor20, 0, huge_db, 0}, tol<T>()));
-    Owned<T> l({T(0), T(0)}, true);
-    ASSERT_EQ(api::log(l.get()), 0);
-    EXPECT_TRUE(near_all(l.scalars(), std::vector<double>{static_cast<double>(std::log(tiny)), 0}, tol<T>()));
-}
-
+// exp saturates just past ln(huge), the limit itself is still computed;
+// decibels and logarithms of zero, negative and tiny values use the floor, the
+// complex origin too, and parts beyond the guard are clamped before squaring.
 // A real value below -huge stops exp10 there: that sample and all later ones
-// keep their values. Complex input gets the magnitude -huge instead.
-TYPED_TEST(LogExpTest, Exp10StopsBelowMinusHuge) {
+// keep their values; complex input gets the magnitude -huge instead, and -huge
+// itself is converted.
+TYPED_TEST(LogExpTest, GuardsAndFloors) {
     using T = TypeParam;
-    const T huge = Traits<T>::huge, below = -huge * T(2);
-    Owned<T> v({T(1), T(1000), below, T(2), T(-3)});
-    ASSERT_EQ(api::exp10(v.get()), 0);
-    EXPECT_TRUE(near_all(v.scalars(), std::vector<double>{10, static_cast<double>(huge), static_cast<double>(below), 2, -3}, tol<T>()));
-    Owned<T> c({below, T(0), T(2), T(0)}, true);
-    ASSERT_EQ(api::exp10(c.get()), 0);
-    EXPECT_TRUE(near_all(c.scalars(), std::vector<double>{static_cast<double>(-huge), 0, 100, 0}, tol<T>(16)));
-    Owned<T> at({-huge});  // -huge itself is converted
-    ASSERT_EQ(api::exp10(at.get()), 0);
-    EXPECT_EQ(at.scalars()[0], T(0));
+    const T huge = Traits<T>::huge, tiny = Traits<T>::tiny, above = sizeof(T) == 4 ? T(35) : T(231);
+    const LD exact_tiny = sizeof(T) == 4 ? 1.1754943508222875e-38L : 2.2250738585072014e-308L;
+    const double floor20 = static_cast<double>(20 * std::log10(exact_tiny)), below = -2.0 * huge;
+    const double huge_db = static_cast<double>(20 * std::log10(static_cast<LD>(huge)));
+    const auto db20 = [](Vec<T>* v) { return api::db(v, T(20)); };
+    check_hand<T>({
+        {api::exp, {above, 0}, false, {huge, 1}},
+        {api::exp, {above, 0}, true, {huge, 0}},
+        {db20, {0, -1, 1, tiny, tiny / 4, 100}, false, {floor20, floor20, 0, floor20, floor20, 40}, 4},
+        {db20, {0, 0, T(-0.0), tiny / 4, huge * 8, 0}, true, {floor20, 0, floor20, 0, huge_db, 0}, 4},
+        {api::log, {0, 0}, true, {static_cast<double>(std::log(exact_tiny)), 0}, 4},
+        {api::exp10, {1, 1000, T(below), 2, -3}, false, {10, huge, below, 2, -3}, 4},
+        {api::exp10, {T(below), 0, 2, 0}, true, {-huge, 0, 100, 0}, 16},
+        {api::exp10, {-huge}, false, {0}},
+    });
+    Owned<T> v({Traits<T>::exp_limit});
+    ASSERT_EQ(api::exp(v.get()), 0);
+    EXPECT_NEAR(v.scalars()[0] / huge, 1.0, 1e-5);
 }

@@ -70,16 +70,6 @@ TYPED_TEST(PadTest, Zpad2PlacesAndScalesAndUnzpadUndoesIt) {
     }
 }
 
-TYPED_TEST(PadTest, SpectrumSplitExample) {
-    using T = TypeParam;
-    Owned<T> v({1, 2, 3, 4, 5});
-    ASSERT_EQ(api::zpad2(v.get(), 8, 0x300), 0);
-    const T f = T(8) / T(5);
-    EXPECT_TRUE(near_all(v.scalars(), std::vector<T>{f, 2 * f, 3 * f, 0, 0, 0, 4 * f, 5 * f}, tol<T>()));
-    ASSERT_EQ(api::unzpad(v.get(), 5, 0x300 | 2), 0);
-    EXPECT_TRUE(near_all(v.scalars(), std::vector<T>{f, 2 * f, 3 * f, 4 * f, 5 * f}, tol<T>()));
-}
-
 TYPED_TEST(PadTest, Zpad2FromEmptyGivesZerosAndNeverShortens) {
     using T = TypeParam;
     Owned<T> e;

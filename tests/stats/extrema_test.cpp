@@ -9,33 +9,21 @@ using namespace zt;
 template <class T> class StatsExtrema : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsExtrema, Precisions);
 
-TYPED_TEST(StatsExtrema, RealExtremaAreBoundedByTheGuard) {
+TYPED_TEST(StatsExtrema, HandWorkedCases) {
     using T = TypeParam;
-    const T G = this->G;
-    EXPECT_EQ(this->run(api::min, {T(2) * G}), std::vector<T>({G}));
-    EXPECT_EQ(this->run(api::max, {T(-2) * G}), std::vector<T>({-G}));
-    // A sample that is not a number never replaces the running value.
-    const T nan = std::numeric_limits<T>::quiet_NaN();
-    EXPECT_EQ(this->run(api::min, {nan, T(2), T(1)}), std::vector<T>({T(1)}));
-    EXPECT_EQ(this->run(api::max, {T(2), nan, T(1)}), std::vector<T>({T(2)}));
-}
-
-TYPED_TEST(StatsExtrema, ComplexStartValuesDiffer) {
-    using T = TypeParam;
-    const T G = this->G;
-    // Nothing ranks above -G ... except a real rank; all-zero samples rank 0 > -G.
-    EXPECT_EQ(this->run(api::max, {T(0), T(0), T(0), T(0)}, true), std::vector<T>({T(0), T(0)}));
-    // Every sample ranks at least G (a part beyond the guard, or a magnitude
-    // beyond it): no sample replaces the start value (G, G).
-    EXPECT_EQ(this->run(api::min, {T(2) * G, T(0), G, G, T(0), -T(3) * G}, true), std::vector<T>({G, G}));
-}
-
-TYPED_TEST(StatsExtrema, ComplexRankingByMagnitudeKeepsTheFirstOfEqualRank) {
-    using T = TypeParam;
-    const T G = this->G;
-    const std::vector<T> z{T(4), T(3), T(0), T(1), T(-3), T(-4), T(0), T(-5), T(1), T(0)};
-    EXPECT_EQ(this->run(api::min, z, true), std::vector<T>({T(0), T(1)}));
-    EXPECT_EQ(this->run(api::max, z, true), std::vector<T>({T(4), T(3)}));
-    // A part beyond the guard ranks as the guard itself, above any ordinary sample.
-    EXPECT_EQ(this->run(api::max, {T(1), T(1), T(2) * G, T(0), T(3), T(3)}, true), std::vector<T>({T(2) * G, T(0)}));
+    const T G = this->G, nan = std::numeric_limits<T>::quiet_NaN();
+    const std::vector<T> z{4, 3, 0, 1, -3, -4, 0, -5, 1, 0};
+    this->check({
+        {api::min, {2 * G}, false, {G}},  // real extremes are bounded by the guard
+        {api::max, {-2 * G}, false, {-G}},
+        {api::min, {nan, 2, 1}, false, {1}},  // a non-number never replaces the running value
+        {api::max, {2, nan, 1}, false, {2}},
+        {api::max, {0, 0, 0, 0}, true, {0, 0}},  // complex max starts below every rank (0 > -G)
+        // Every sample ranks at least G (a part or a magnitude beyond it):
+        // none replaces complex min's start value (G, G).
+        {api::min, {2 * G, 0, G, G, 0, -3 * G}, true, {G, G}},
+        {api::min, z, true, {0, 1}},  // by magnitude, the first of equal rank
+        {api::max, z, true, {4, 3}},
+        {api::max, {1, 1, 2 * G, 0, 3, 3}, true, {2 * G, 0}},  // a part beyond the guard ranks as the guard
+    });
 }

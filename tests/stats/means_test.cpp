@@ -9,40 +9,26 @@ using namespace zt;
 template <class T> class StatsMeans : public StatsFixture<T> {};
 TYPED_TEST_SUITE(StatsMeans, Precisions);
 
-TYPED_TEST(StatsMeans, GeometricMeanOfProductsAtTheBoundaries) {
+TYPED_TEST(StatsMeans, HandWorkedCases) {
     using T = TypeParam;
-    const double r = tol<T>();
-    EXPECT_EQ(this->run(api::gmean, {T(-2), T(8)}), std::vector<T>({T(0)}));
-    EXPECT_EQ(this->run(api::gmean, {T(3), T(0), T(3)}), std::vector<T>({T(0)}));
-    // (j)(j) = -1, angle π, halved: j.
-    EXPECT_TRUE(near_all(this->run(api::gmean, {T(0), T(1), T(0), T(1)}, true), std::vector<double>{0, 1}, r));
-    // (1+j)(2+2j)(4+4j) = -16+16j, magnitude 16√2, angle 3π/4: the cube root
-    // of the product is 2^(3/2)·e^(jπ/4) = (2, 2).
-    EXPECT_TRUE(near_all(this->run(api::gmean, {T(1), T(1), T(2), T(2), T(4), T(4)}, true), std::vector<double>{2, 2}, r));
-}
-
-// A product below the smallest normal number gives 0, even when every sample
-// is positive: here each sample is tiny^0.75, so the product is tiny^1.5.
-TYPED_TEST(StatsMeans, GeometricMeanOfAnUnderflowingProductIsZero) {
-    using T = TypeParam;
+    // Each sample tiny^0.75: the product tiny^1.5 lies below the smallest
+    // normal number, which gives 0 though every sample is positive.
     const T x = static_cast<T>(std::pow(static_cast<double>(Traits<T>::tiny), 0.75));
-    EXPECT_EQ(this->run(api::gmean, {x, x}), std::vector<T>({T(0)}));
-    EXPECT_EQ(this->run(api::gmean, {x, T(0), x, T(0)}, true), std::vector<T>({T(0), T(0)}));
-}
-
-TYPED_TEST(StatsMeans, RealHarmonicMeanOfZeroSamplesAndCancellation) {
-    using T = TypeParam;
-    EXPECT_EQ(this->run(api::hmean, {T(1), T(0), T(4)}), std::vector<T>({T(0)}));
-    // Reciprocals that cancel: the guard.
-    EXPECT_EQ(this->run(api::hmean, {T(1), T(-1)}), std::vector<T>({this->G}));
-}
-
-// Complex samples: a zero sample has the guard as reciprocal factor, which
-// times its zero parts adds nothing (so hmean(0, 2) is 2/(1/2) = 4), and a
-// vanishing sum is multiplied by the guard, which leaves it (0, 0).
-TYPED_TEST(StatsMeans, ComplexHarmonicMeanOfZeroSamplesAndCancellation) {
-    using T = TypeParam;
-    const double r = tol<T>();
-    EXPECT_TRUE(near_all(this->run(api::hmean, {T(0), T(0), T(2), T(0)}, true), std::vector<double>{4, 0}, r));
-    EXPECT_TRUE(near_all(this->run(api::hmean, {T(1), T(0), T(-1), T(0)}, true), std::vector<double>{0, 0}, 0));
+    this->check({
+        {api::gmean, {-2, 8}, false, {0}},
+        {api::gmean, {3, 0, 3}, false, {0}},
+        {api::gmean, {0, 1, 0, 1}, true, {0, 1}, 4},  // (j)(j) = -1, angle π, halved: j
+        // (1+j)(2+2j)(4+4j) = -16+16j, magnitude 16√2, angle 3π/4: the cube
+        // root is 2^(3/2)·e^(jπ/4) = (2, 2).
+        {api::gmean, {1, 1, 2, 2, 4, 4}, true, {2, 2}, 4},
+        {api::gmean, {x, x}, false, {0}},
+        {api::gmean, {x, 0, x, 0}, true, {0, 0}},
+        {api::hmean, {1, 0, 4}, false, {0}},
+        {api::hmean, {1, -1}, false, {this->G}},  // reciprocals that cancel: the guard
+        // A zero complex sample has the guard as reciprocal factor, which times
+        // its zero parts adds nothing (hmean(0, 2) = 2/(1/2)); a vanishing sum
+        // times the guard stays (0, 0).
+        {api::hmean, {0, 0, 2, 0}, true, {4, 0}, 4},
+        {api::hmean, {1, 0, -1, 0}, true, {0, 0}},
+    });
 }

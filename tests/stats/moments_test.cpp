@@ -21,42 +21,36 @@ TYPED_TEST(StatsMoments, SumsRunInBlocksOf2048Samples) {
     const long double base = 2 / static_cast<long double>(std::numeric_limits<A>::epsilon());
     const int n = 6 * 2048 + 4;
     std::vector<T> real(n, T(1)), pairs(2 * n, T(1));
-    real[0] = static_cast<T>(base);
-    pairs[0] = pairs[1] = static_cast<T>(base);
+    real[0] = pairs[0] = pairs[1] = static_cast<T>(base);
     const A total = static_cast<A>(base + 5 * 2048 + 4);
-    const T want = static_cast<T>(total);
-    EXPECT_EQ(this->run(api::sum, real), std::vector<T>({want}));
-    EXPECT_EQ(this->run(api::sum, pairs, true), std::vector<T>({want, want}));
-    EXPECT_EQ(this->run(api::mean, real), std::vector<T>({static_cast<T>(total / n)}));
+    const double want = static_cast<T>(total);
+    this->check({{api::sum, real, false, {want}},
+                 {api::sum, pairs, true, {want, want}},
+                 {api::mean, real, false, {static_cast<T>(total / n)}}});
 }
 
-TYPED_TEST(StatsMoments, SumIsNotClampedButPowerTermsAre) {
+TYPED_TEST(StatsMoments, HandWorkedCases) {
     using T = TypeParam;
-    const T G = this->G;
-    EXPECT_TRUE(near_all(this->run(api::sum, {T(2) * G, T(3)}), std::vector<double>{2.0 * G + 3}, tol<T>()));
-    // Parts beyond the guard, or not a number, add the guard instead of their square.
-    const T nan = std::numeric_limits<T>::quiet_NaN();
-    EXPECT_TRUE(near_all(this->run(api::magsq_sum, {T(2) * G, -T(3) * G, nan}), std::vector<double>{3.0 * G}, tol<T>()));
-    EXPECT_TRUE(near_all(this->run(api::magsq_sum, {T(3), T(2) * G, T(1), T(2)}, true), std::vector<double>{G + 5.0}, tol<T>()));
-    EXPECT_TRUE(near_all(this->run(api::rms, {T(3), T(4), T(0), T(0)}, true), std::vector<double>{std::sqrt(12.5)}, tol<T>()));
-}
-
-// The deviations from the three-sample shift are clamped to the guard: for
-// (0, 3G) the shift is 2G, the deviations (-2G, G) become (-G, G), and the
-// variance is G², not the true 2.25 G².
-TYPED_TEST(StatsMoments, VarianceDeviationsAreClampedAroundTheShift) {
-    using T = TypeParam;
-    const double G = this->G;
-    EXPECT_TRUE(near_all(this->run(api::pop_var, {T(0), T(3) * this->G}), std::vector<double>{G * G}, tol<T>()));
-}
-
-// A single sample has no spread, and the sample forms fall back to the
-// population ones instead of dividing by n - 1 = 0. Without spread the
-// skewness is 0 but the excess kurtosis -3.
-TYPED_TEST(StatsMoments, VectorsWithoutSpread) {
-    using T = TypeParam;
-    for (auto fn : std::initializer_list<typename TestFixture::Fn>{api::pop_var, api::samp_var, api::pop_stddev, api::samp_stddev})
-        EXPECT_EQ(this->run(fn, {T(5)}), std::vector<T>({T(0)}));
-    EXPECT_EQ(this->run(api::skew, {T(1), T(1), T(1)}), std::vector<T>({T(0)}));
-    EXPECT_EQ(this->run(api::excess, {T(1), T(1), T(1)}), std::vector<T>({T(-3)}));
+    const T G = this->G, nan = std::numeric_limits<T>::quiet_NaN();
+    const double g = G;
+    this->check({
+        {api::sum, {2 * G, 3}, false, {2 * g + 3}, 4},  // the sum is not clamped
+        // Parts beyond the guard, or not a number, add the guard instead of their square.
+        {api::magsq_sum, {2 * G, -3 * G, nan}, false, {3 * g}, 4},
+        {api::magsq_sum, {3, 2 * G, 1, 2}, true, {g + 5}, 4},
+        {api::rms, {3, 4, 0, 0}, true, {std::sqrt(12.5)}, 4},
+        // Deviations from the three-sample shift are clamped to the guard: for
+        // (0, 3G) the shift is 2G, (-2G, G) becomes (-G, G), the variance G²
+        // instead of the true 2.25 G².
+        {api::pop_var, {0, 3 * G}, false, {g * g}, 4},
+        // One sample has no spread; the sample forms fall back to the
+        // population ones instead of dividing by n - 1 = 0. Without spread the
+        // skewness is 0 but the excess kurtosis -3.
+        {api::pop_var, {5}, false, {0}},
+        {api::samp_var, {5}, false, {0}},
+        {api::pop_stddev, {5}, false, {0}},
+        {api::samp_stddev, {5}, false, {0}},
+        {api::skew, {1, 1, 1}, false, {0}},
+        {api::excess, {1, 1, 1}, false, {-3}},
+    });
 }

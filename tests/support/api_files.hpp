@@ -1,14 +1,10 @@
 // Test-side overloads of the vector-file entry points, picked by record type.
 #pragma once
-#include <zifaif/dsp.h>
+#include "support/api_core.hpp"
 
 namespace api {
-inline int fread(dsp_vector* v, FILE* f) { return dspf_fread(v, f); }
-inline int fread(dspf_vector* v, FILE* f) { return dspff_fread(v, f); }
-inline int fwrite(const dsp_vector* v, FILE* f) { return dspf_fwrite(v, f); }
-inline int fwrite(const dspf_vector* v, FILE* f) { return dspff_fwrite(v, f); }
-inline int fwrite2(const dsp_vector* v, FILE* f, int flags) { return dspf_fwrite2(v, f, flags); }
-inline int fwrite2(const dspf_vector* v, FILE* f, int flags) { return dspff_fwrite2(v, f, flags); }
-inline int fwrite_ascii(const dsp_vector* v, FILE* f) { return dspf_fwrite_ascii(v, f); }
-inline int fwrite_ascii(const dspf_vector* v, FILE* f) { return dspff_fwrite_ascii(v, f); }
+ZT_TWIN(fread, dspf_fread, dspff_fread)
+ZT_TWIN(fwrite, dspf_fwrite, dspff_fwrite)
+ZT_TWIN(fwrite2, dspf_fwrite2, dspff_fwrite2)
+ZT_TWIN(fwrite_ascii, dspf_fwrite_ascii, dspff_fwrite_ascii)
 }  // namespace api

@@ -1,37 +1,22 @@
 // Test-side overloads of the descriptive statistics, picked by record type,
 // so one typed test reaches both C twins through the real interface.
 #pragma once
-#include <zifaif/dsp.h>
+#include "support/api_core.hpp"
 
 namespace api {
-inline int sum(const dsp_vector* in, dsp_vector* out) { return dsps_sum(in, out); }
-inline int sum(const dspf_vector* in, dspf_vector* out) { return dspfs_sum(in, out); }
-inline int mean(const dsp_vector* in, dsp_vector* out) { return dsps_mean(in, out); }
-inline int mean(const dspf_vector* in, dspf_vector* out) { return dspfs_mean(in, out); }
-inline int min(const dsp_vector* in, dsp_vector* out) { return dsps_min(in, out); }
-inline int min(const dspf_vector* in, dspf_vector* out) { return dspfs_min(in, out); }
-inline int max(const dsp_vector* in, dsp_vector* out) { return dsps_max(in, out); }
-inline int max(const dspf_vector* in, dspf_vector* out) { return dspfs_max(in, out); }
-inline int median(const dsp_vector* in, dsp_vector* out) { return dsps_median(in, out); }
-inline int median(const dspf_vector* in, dspf_vector* out) { return dspfs_median(in, out); }
-inline int magsq_sum(const dsp_vector* in, dsp_vector* out) { return dsps_magsq_sum(in, out); }
-inline int magsq_sum(const dspf_vector* in, dspf_vector* out) { return dspfs_magsq_sum(in, out); }
-inline int rms(const dsp_vector* in, dsp_vector* out) { return dsps_rms(in, out); }
-inline int rms(const dspf_vector* in, dspf_vector* out) { return dspfs_rms(in, out); }
-inline int pop_var(const dsp_vector* in, dsp_vector* out) { return dsps_pop_var(in, out); }
-inline int pop_var(const dspf_vector* in, dspf_vector* out) { return dspfs_pop_var(in, out); }
-inline int samp_var(const dsp_vector* in, dsp_vector* out) { return dsps_samp_var(in, out); }
-inline int samp_var(const dspf_vector* in, dspf_vector* out) { return dspfs_samp_var(in, out); }
-inline int pop_stddev(const dsp_vector* in, dsp_vector* out) { return dsps_pop_stddev(in, out); }
-inline int pop_stddev(const dspf_vector* in, dspf_vector* out) { return dspfs_pop_stddev(in, out); }
-inline int samp_stddev(const dsp_vector* in, dsp_vector* out) { return dsps_samp_stddev(in, out); }
-inline int samp_stddev(const dspf_vector* in, dspf_vector* out) { return dspfs_samp_stddev(in, out); }
-inline int skew(const dsp_vector* in, dsp_vector* out) { return dsps_skew(in, out); }
-inline int skew(const dspf_vector* in, dspf_vector* out) { return dspfs_skew(in, out); }
-inline int excess(const dsp_vector* in, dsp_vector* out) { return dsps_excess(in, out); }
-inline int excess(const dspf_vector* in, dspf_vector* out) { return dspfs_excess(in, out); }
-inline int gmean(const dsp_vector* in, dsp_vector* out) { return dsps_gmean(in, out); }
-inline int gmean(const dspf_vector* in, dspf_vector* out) { return dspfs_gmean(in, out); }
-inline int hmean(const dsp_vector* in, dsp_vector* out) { return dsps_hmean(in, out); }
-inline int hmean(const dspf_vector* in, dspf_vector* out) { return dspfs_hmean(in, out); }
+ZT_TWIN(sum, dsps_sum, dspfs_sum)
+ZT_TWIN(mean, dsps_mean, dspfs_mean)
+ZT_TWIN(min, dsps_min, dspfs_min)
+ZT_TWIN(max, dsps_max, dspfs_max)
+ZT_TWIN(median, dsps_median, dspfs_median)
+ZT_TWIN(magsq_sum, dsps_magsq_sum, dspfs_magsq_sum)
+ZT_TWIN(rms, dsps_rms, dspfs_rms)
+ZT_TWIN(pop_var, dsps_pop_var, dspfs_pop_var)
+ZT_TWIN(samp_var, dsps_samp_var, dspfs_samp_var)
+ZT_TWIN(pop_stddev, dsps_pop_stddev, dspfs_pop_stddev)
+ZT_TWIN(samp_stddev, dsps_samp_stddev, dspfs_samp_stddev)
+ZT_TWIN(skew, dsps_skew, dspfs_skew)
+ZT_TWIN(excess, dsps_excess, dspfs_excess)
+ZT_TWIN(gmean, dsps_gmean, dspfs_gmean)
+ZT_TWIN(hmean, dsps_hmean, dspfs_hmean)
 }  // namespace api

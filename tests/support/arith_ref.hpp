@@ -128,6 +128,23 @@ template <class T>
     return ::testing::AssertionSuccess();
 }
 
+// A case worked out by hand: the operation on these scalars gives these
+// scalars, within ulps units of epsilon (0: exactly).
+template <class T> struct Hand {
+    int (*run)(Vec<T>*);
+    std::vector<T> in;
+    bool complex;
+    std::vector<double> want;
+    double ulps = 0;
+};
+template <class T> void check_hand(const std::vector<Hand<T>>& cases) {
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        Owned<T> v(cases[i].in, cases[i].complex);
+        ASSERT_EQ(cases[i].run(v.get()), 0) << "case " << i;
+        EXPECT_TRUE(near_all(v.scalars(), cases[i].want, tol<T>(cases[i].ulps))) << "case " << i;
+    }
+}
+
 // The lengths every operation is run at: empty, tiny, around a power of two
 // (vector blocks and tails) and one longer run.
 inline const std::vector<int>& lengths() {

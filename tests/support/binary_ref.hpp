@@ -9,20 +9,9 @@
 #include <cstddef>
 #include <vector>
 
+#include "support/vectors.hpp"
+
 namespace zt {
-
-using Cx = std::complex<long double>;
-
-// The samples of a scalar list, pairs when complex.
-template <class T> std::vector<Cx> samples(const std::vector<T>& s, bool complex) {
-    std::vector<Cx> out;
-    if (complex) {
-        for (std::size_t k = 0; k + 1 < s.size(); k += 2) out.emplace_back(s[k], s[k + 1]);
-    } else {
-        for (T x : s) out.emplace_back(x, 0.0L);
-    }
-    return out;
-}
 
 // Back to scalars: pairs when complex, real parts only otherwise.
 inline std::vector<long double> scalars_of(const std::vector<Cx>& z, bool complex) {

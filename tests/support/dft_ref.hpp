@@ -10,6 +10,8 @@
 #include <limits>
 #include <vector>
 
+#include "support/vectors.hpp"
+
 namespace ref {
 
 using cld = std::complex<long double>;
@@ -86,16 +88,8 @@ inline std::vector<cld> fft(std::vector<cld> x, int sign, long double scale = 1)
 }
 
 // Interleaved (re, im) scalars to complex values, and real scalars to complex.
-template <class T> std::vector<cld> from_pairs(const std::vector<T>& s) {
-    std::vector<cld> out(s.size() / 2);
-    for (std::size_t i = 0; i < out.size(); ++i) out[i] = cld(s[2 * i], s[2 * i + 1]);
-    return out;
-}
-template <class T> std::vector<cld> from_reals(const std::vector<T>& s) {
-    std::vector<cld> out(s.size());
-    for (std::size_t i = 0; i < out.size(); ++i) out[i] = cld(s[i], 0);
-    return out;
-}
+template <class T> std::vector<cld> from_pairs(const std::vector<T>& s) { return zt::samples(s, true); }
+template <class T> std::vector<cld> from_reals(const std::vector<T>& s) { return zt::samples(s, false); }
 
 // The accuracy promised for transforms of any length: RMS error relative to
 // the RMS of the exact result at most 10·eps·log2(n) (taking log2 as 1 below 2).

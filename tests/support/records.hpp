@@ -21,8 +21,16 @@ template <class T> Vec<T> borrow(T* data, int points) {
     return v;
 }
 
-// Hooks that count their calls, allocate with malloc and fail on a chosen call.
+// An operation on one record refuses records it cannot read: none, a negative
+// count, samples without storage, owned storage too small for the shape.
+template <class T> void expect_refuses_unreadable(int (*f)(Vec<T>*)) {
+    T block[4] = {};
+    Vec<T> negative{T(1), block, 4, -1, 0, 0}, no_data{T(1), nullptr, 0, 2, 0, 0}, too_small{T(1), block, 2, 2, 1, 0};
+    EXPECT_EQ(f(static_cast<Vec<T>*>(nullptr)), -1);
+    for (Vec<T>* v : {&negative, &no_data, &too_small}) EXPECT_EQ(f(v), -1);
+}
 
+// Hooks that count their calls, allocate with malloc and fail on a chosen call.
 template <class T> struct CountingHooks {
     static inline int allocs = 0, reallocs = 0, frees = 0, fail_at = 0, calls = 0;
     static inline long live = 0;

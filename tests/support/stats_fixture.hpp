@@ -1,5 +1,6 @@
-// A typed fixture for the statistics tests, running one statistic on given
-// scalars through the C entry point, and allocation hooks that count blocks.
+// A typed fixture for the statistics tests: one statistic run on given scalars
+// through the C entry point, tables of hand-worked cases, and allocation hooks
+// that count blocks.
 #pragma once
 
 #include "support/api_stats.hpp"
@@ -23,6 +24,13 @@ protected:
         EXPECT_EQ(std::memcmp(in.v.data, s.data(), s.size() * sizeof(T)), 0) << "input changed";
         return out.scalars();
     }
+    // A case worked out by hand: the result within ulps units of epsilon (0: exactly).
+    struct Case { Fn fn; std::vector<T> in; bool complex; std::vector<double> want; double ulps = 0; };
+    void check(const std::vector<Case>& cases) {
+        for (std::size_t i = 0; i < cases.size(); ++i)
+            EXPECT_TRUE(near_all(run(cases[i].fn, cases[i].in, cases[i].complex), cases[i].want, tol<T>(cases[i].ulps)))
+                << "case " << i;
+    }
 };
 
 // Hooks that allocate with malloc, count blocks and can refuse every allocation.
@@ -35,9 +43,9 @@ template <class T> struct BlockHooks {
         if (v->data) ++allocs;
     }
     static void ZF_CDECL free(Vec<T>* v) { ++frees; std::free(v->data); }
-    explicit BlockHooks(bool refuse_first) {
+    explicit BlockHooks(bool refuse_all) {
         allocs = frees = 0;
-        refuse = refuse_first;
+        refuse = refuse_all;
         api::lib_alloc(&BlockHooks::alloc, nullptr);
         api::lib_free(&BlockHooks::free, nullptr);
     }

@@ -10,20 +10,15 @@
 #include <complex>
 #include <vector>
 
+#include "support/vectors.hpp"
+
 namespace zr {
 
 using L = long double;
 using R = std::vector<L>;
 using C = std::complex<L>;
 
-template <class T> std::vector<C> samples(const std::vector<T>& s, bool complex) {
-    std::vector<C> z;
-    if (complex)
-        for (std::size_t i = 0; i + 1 < s.size(); i += 2) z.emplace_back(L(s[i]), L(s[i + 1]));
-    else
-        for (T x : s) z.emplace_back(L(x), L(0));
-    return z;
-}
+using zt::samples;
 inline R result(C z, bool complex) { return complex ? R{z.real(), z.imag()} : R{z.real()}; }
 inline L norm2(C z) { return z.real() * z.real() + z.imag() * z.imag(); }
 

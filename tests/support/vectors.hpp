@@ -49,6 +49,14 @@ template <class T> struct Owned {
     }
 };
 
+// The samples of a scalar list as complex values, pairs when complex.
+using Cx = std::complex<long double>;
+template <class T> std::vector<Cx> samples(const std::vector<T>& s, bool complex) {
+    std::vector<Cx> out;
+    for (std::size_t k = 0; k + complex < s.size(); k += 1 + complex) out.emplace_back(s[k], complex ? s[k + 1] : T(0));
+    return out;
+}
+
 // Uniform random scalars in [lo, hi), reproducible by seed.
 template <class T> std::vector<T> random_scalars(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0) {
     std::mt19937 gen(seed);

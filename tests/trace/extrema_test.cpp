@@ -15,19 +15,37 @@ template <class T> std::vector<T> coarse_trace(std::size_t n, unsigned seed) {
 }
 
 // What the random ranges do not reach: empty and reversed ranges, values at
-// the top of the range, null data.
-TYPED_TEST(TraceExtremaTest, SingleSearchesOnEmptyRangesAndNullData) {
+// the top of the range, null data, negative starts. FindMin never reads
+// data[start], and the band searches never read a start inside the band, so a
+// negative start there still searches the array; e is exactly as long as the
+// trace, so a read before it shows under ASan.
+TYPED_TEST(TraceExtremaTest, HandCasesOnEmptyRangesNullDataAndNegativeStarts) {
     using T = TypeParam;
     const T big = std::numeric_limits<T>::max(), inf = std::numeric_limits<T>::infinity();
-    const std::vector<T> c = {2, 7, 7}, d = {-1, big, inf};
-    EXPECT_EQ(api::find_max(c.data(), 2, 2), 2);
-    EXPECT_EQ(api::find_max(c.data(), 2, 0), 2);  // reversed: start
-    EXPECT_EQ(api::find_min(c.data(), 2, 0), 2);
-    EXPECT_EQ(api::find_max2(c.data(), 2, 2, 0, 1), 2);  // empty range outside the band
-    EXPECT_EQ(api::find_min(d.data(), 0, 3), 0);  // nothing below the largest finite value after start
-    EXPECT_EQ(api::find_max(static_cast<const T*>(nullptr), 0, 3), -1);
-    EXPECT_EQ(api::find_min(static_cast<const T*>(nullptr), 0, 3), -1);
-    EXPECT_EQ(api::find_max2(static_cast<const T*>(nullptr), 0, 3, 1, 2), -1);
+    const std::vector<T> c = {2, 7, 7}, d = {-1, big, inf}, e = {5, 1, 2, T(0.5), 7, 3, 9, -1};
+    enum { Max, Min, Max2, Min2 };
+    struct Case { int kind; const T* data; int start, stop, from, to, want; };
+    const Case cases[] = {
+        {Max, c.data(), 2, 2, 0, 0, 2}, {Max, c.data(), 2, 0, 0, 0, 2}, {Min, c.data(), 2, 0, 0, 0, 2},  // reversed: start
+        {Max2, c.data(), 2, 2, 0, 1, 2},     // empty range outside the band
+        {Min, d.data(), 0, 3, 0, 0, 0},      // nothing below the largest finite value after start
+        {Max, nullptr, 0, 3, 0, 0, -1}, {Min, nullptr, 0, 3, 0, 0, -1}, {Max2, nullptr, 0, 3, 1, 2, -1},
+        {Min, e.data(), -1, 4, 0, 0, 3},     // smallest of 5, 1, 2, 0.5
+        {Min, e.data(), -1, 1, 0, 0, 0},     // 5 is below the largest finite value
+        {Min, e.data(), -1, 0, 0, 0, -1},    // nothing after start: start
+        {Min, e.data(), -2, 4, 0, 0, -1},    // would read data[-1]
+        {Max2, e.data(), -3, 8, -5, 2, 6}, {Min2, e.data(), -3, 8, -5, 2, 7},  // begin at data[2]
+        {Max2, e.data(), -3, 5, -5, 0, 4}, {Min2, e.data(), -3, 5, -5, 0, 3},  // begin at data[0]
+        {Max2, e.data(), -3, 8, -5, -1, -1},  // would begin at data[-1]
+        {Min2, e.data(), -1, 8, 0, 3, -1},    // start outside the band
+    };
+    for (const Case& k : cases) {
+        const int got = k.kind == Max    ? api::find_max(k.data, k.start, k.stop)
+                        : k.kind == Min  ? api::find_min(k.data, k.start, k.stop)
+                        : k.kind == Max2 ? api::find_max2(k.data, k.start, k.stop, k.from, k.to)
+                                         : api::find_min2(k.data, k.start, k.stop, k.from, k.to);
+        EXPECT_EQ(got, k.want) << k.kind << ": " << k.start << " " << k.stop << " " << k.from << " " << k.to;
+    }
 }
 
 TYPED_TEST(TraceExtremaTest, SearchesMatchReferenceOnRandomRangesAndBands) {
@@ -53,24 +71,6 @@ TYPED_TEST(TraceExtremaTest, SearchesMatchReferenceOnRandomRangesAndBands) {
         EXPECT_EQ(api::find_max2(data.data(), start, stop, from, to), ref::first_extreme(data, kept, true));
         EXPECT_EQ(api::find_min2(data.data(), start, stop, from, to), ref::first_extreme(data, kept, false));
     }
-}
-
-// FindMin never reads data[start], and a start inside the band is never read
-// either: a negative start there still searches the array. The vector is
-// exactly as long as the trace, so a read before it shows under ASan.
-TYPED_TEST(TraceExtremaTest, SearchesThatSkipStartAcceptANegativeStart) {
-    using T = TypeParam;
-    const std::vector<T> d = {5, 1, 2, T(0.5), 7, 3, 9, -1};
-    EXPECT_EQ(api::find_min(d.data(), -1, 4), 3);  // smallest of 5, 1, 2, 0.5
-    EXPECT_EQ(api::find_min(d.data(), -1, 1), 0);  // 5 is below the largest finite value
-    EXPECT_EQ(api::find_min(d.data(), -1, 0), -1); // nothing after start: start
-    EXPECT_EQ(api::find_min(d.data(), -2, 4), -1); // would read data[-1]
-    EXPECT_EQ(api::find_max2(d.data(), -3, 8, -5, 2), 6);  // begins at data[2]
-    EXPECT_EQ(api::find_min2(d.data(), -3, 8, -5, 2), 7);
-    EXPECT_EQ(api::find_max2(d.data(), -3, 5, -5, 0), 4);  // begins at data[0]
-    EXPECT_EQ(api::find_min2(d.data(), -3, 5, -5, 0), 3);
-    EXPECT_EQ(api::find_max2(d.data(), -3, 8, -5, -1), -1);  // would begin at data[-1]
-    EXPECT_EQ(api::find_min2(d.data(), -1, 8, 0, 3), -1);    // start outside the band
 }
 
 TYPED_TEST(TraceExtremaTest, MinMaxArgumentChecks) {

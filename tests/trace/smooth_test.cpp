@@ -29,20 +29,6 @@ TYPED_TEST(TraceSmoothTest, RangeAndApertureChecks) {
     EXPECT_EQ(api::smooth_cpx(src.data(), static_cast<T*>(nullptr), 8, 0, 8, 3), -1);
 }
 
-TYPED_TEST(TraceSmoothTest, HandExamplesAtTheTraceEnds) {
-    using T = TypeParam;
-    const std::vector<T> src = {1, 2, 4, 8, 16, 32};
-    std::vector<T> dst(6, T(-99));
-    EXPECT_EQ(api::smooth(src.data(), dst.data(), 6, 0, 6, 3, 0, 0), 6);  // shrinking window
-    EXPECT_TRUE(near_all(dst, std::vector<double>{1, 7 / 3., 14 / 3., 28 / 3., 56 / 3., 32}, tol<T>()));
-    EXPECT_EQ(api::smooth(src.data(), dst.data(), 6, 0, 6, 3, 0, 1), 6);  // clamped window
-    EXPECT_TRUE(near_all(dst, std::vector<double>{4 / 3., 7 / 3., 14 / 3., 28 / 3., 56 / 3., 80 / 3.}, tol<T>()));
-    std::vector<T> part(6, T(-99));
-    EXPECT_EQ(api::smooth(src.data(), part.data(), 6, 0, 4, 3, 0, 0), 3);  // window of point 3 would pass point 3
-    EXPECT_EQ(api::smooth(src.data(), part.data(), 6, 2, 6, 3, 0, 1), 4);  // ends at the trace end: finished
-    EXPECT_TRUE(near_all(part, std::vector<double>{1, 7 / 3., 14 / 3., 28 / 3., 56 / 3., 80 / 3.}, tol<T>()));
-}
-
 // Phase mode on values without wraps is the plain average.
 TYPED_TEST(TraceSmoothTest, PlainMatchesMovingAverageReference) {
     using T = TypeParam;

@@ -5,6 +5,7 @@
 
 #include "support/api_dft.hpp"
 #include "support/dft_ref.hpp"
+#include "support/records.hpp"
 #include "transform/dft.hpp"
 
 using namespace zt;
@@ -174,24 +175,11 @@ TYPED_TEST(DftTest, ShortAndBadRecords) {
     ASSERT_EQ(api::dft(empty.get(), 1), 0);
     EXPECT_EQ(empty->delta, Traits<T>::huge);
     EXPECT_EQ(empty->points, 0);
-    Vec<T>* none = nullptr;
-    EXPECT_EQ(api::dft(none, 0), -1);
-    EXPECT_EQ(api::rdft(none), -1);
-    EXPECT_EQ(api::irdft(none, 0), -1);
-    EXPECT_EQ(api::orecon(none, 0), -1);
-    EXPECT_EQ(api::recon(none), -1);
-    Vec<T> bad;
-    api::init(&bad);
-    bad.points = 12;  // samples without data
-    EXPECT_EQ(api::dft(&bad, 0), -1);
-    EXPECT_EQ(api::irdft(&bad, 1), -1);
-    bad.points = -3;
-    EXPECT_EQ(api::dft(&bad, 0), -1);
-    Owned<T> small(random_pairs<T>(6, 1), true);
-    small->points = 7;  // owned storage too small for the shape
-    EXPECT_EQ(api::dft(small.get(), 0), -1);
-    small->points = 6;
-    EXPECT_EQ(api::rdft(small.get()), -1);  // complex input
+    for (auto f : {+[](Vec<T>* v) { return api::dft(v, 0); }, api::rdft, +[](Vec<T>* v) { return api::irdft(v, 1); },
+                   +[](Vec<T>* v) { return api::orecon(v, 0); }, api::recon})
+        expect_refuses_unreadable<T>(f);
+    Owned<T> c(random_pairs<T>(6, 1), true);
+    EXPECT_EQ(api::rdft(c.get()), -1);  // complex input
 }
 
 }  // namespace

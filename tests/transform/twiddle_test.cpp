@@ -52,8 +52,7 @@ TYPED_TEST(TwiddleTest, LongTablesStayAccurate) {
 
 TYPED_TEST(TwiddleTest, OneTablePerLengthKeptUntilFreeInternal) {
     using T = TypeParam;
-    const Vec<T>* tag = nullptr;
-    ASSERT_EQ(api::free_internal(tag), 0);
+    ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
     const auto& cache = zf::twiddle_cache<T>();
     EXPECT_EQ(cache.count, 0);
     for (int n : {8, 16, 8}) {
@@ -70,7 +69,7 @@ TYPED_TEST(TwiddleTest, OneTablePerLengthKeptUntilFreeInternal) {
     EXPECT_EQ(zf::swap_cache<T>().entries[0].key, 3);
     EXPECT_EQ(zf::swap_cache<T>().entries[1].key, 4);
 
-    ASSERT_EQ(api::free_internal(tag), 0);
+    ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
     EXPECT_EQ(cache.count, 0);
     EXPECT_EQ(cache.entries, nullptr);
     EXPECT_EQ(zf::swap_cache<T>().count, 0);

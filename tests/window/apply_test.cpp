@@ -1,0 +1,116 @@
+#include <cmath>
+#include <tuple>
+
+#include "support/window_ref.hpp"
+
+using namespace zt;
+using ref::LD;
+
+template <class T> class WindowTest : public ::testing::Test {};
+TYPED_TEST_SUITE(WindowTest, Precisions);
+
+namespace {
+// Windows a random vector with the call and compares with the data times the
+// reference window w, rotated left by N/2 when rotate.
+template <class T, class Call> void check(Call call, const std::vector<LD>& w, bool rotate, double rel, unsigned seed) {
+    const auto data = random_scalars<T>(w.size(), seed, 0.5, 1.5);
+    const std::size_t n = data.size(), h = rotate ? n / 2 : 0;
+    std::vector<LD> want(n);
+    for (std::size_t i = 0; i < n; ++i) want[i] = data[(i + h) % n] * w[(i + h) % n];
+    Owned<T> v(data, false, T(0.25));
+    ASSERT_EQ(call(v.get()), 0);
+    EXPECT_EQ(v->delta, T(0.25));
+    EXPECT_TRUE(near_all(v.scalars(), want, rel));
+}
+// The cosine rows of one kind are given to 7 .. 15 digits: the normalised rows agree with the peak row to that.
+template <class T> double tolerance(const ref::Shape& s, int flags) {
+    return std::max(s.type == 'c' && (flags & 3) != 2 ? 2e-6 : 0.0, tol<T>(64));
+}
+}  // namespace
+
+TYPED_TEST(WindowTest, EveryKindInEveryNormalisationMatchesItsFormula) {
+    using T = TypeParam;
+    const auto cat = ref::catalogue();
+    const auto window = api::pick<T>(dspi_window, dspfi_window);
+    unsigned seed = 0;
+    for (int kind = 0; kind < 25; ++kind)
+        for (int flags : {0, 1, 2, 4, 5, 6})
+            for (int n : {1, 2, 3, 4, 5, 7, 8, 16, 255, 1024}) {
+                if ((flags & 4) && kind < 14) continue;
+                const int turn = ++seed % 2 ? 32 : 16;   // no rotation, or (for kind 0) rotation
+                SCOPED_TRACE(testing::Message() << "kind " << kind << " flags " << (flags | turn) << " N " << n);
+                const auto w = ref::window(cat[kind], n, flags);
+                check<T>([&](Vec<T>* v) { return window(v, kind, flags | turn); }, w, turn == 16, tolerance<T>(cat[kind], flags), seed);
+                check<T>([&](Vec<T>* v) { return window(v, kind, flags); }, w, kind != 0, tolerance<T>(cat[kind], flags), seed);
+            }
+}
+
+TYPED_TEST(WindowTest, WidthSpansTheGivenSamples) {
+    using T = TypeParam;
+    const auto cat = ref::catalogue();
+    for (int kind : {0, 2, 3, 9, 13})
+        for (int norm : {0, 1, 2})
+            for (int n : {16, 17})
+                for (double width : {10.0, 9.0, 7.5, 1.0, 16.0, 40.0}) {
+                    SCOPED_TRACE(testing::Message() << "kind " << kind << " norm " << norm << " N " << n << " width " << width);
+                    check<T>([&](Vec<T>* v) { return api::pick<T>(dspi_window2, dspfi_window2)(v, kind, norm | 8 | 32, T(width)); },
+                             ref::window(cat[kind], n, norm | 8, width), false, tolerance<T>(cat[kind], norm), kind);
+                }
+}
+
+TYPED_TEST(WindowTest, ParametrisedAndFirWindowsMatchTheirFormulas) {
+    using T = TypeParam;
+    const LD pi = 3.141592653589793238L;
+    const auto fir = api::pick<T>(dspi_window_fir, dspfi_window_fir);
+    for (const ref::Shape& s : {ref::Shape{'k', 5}, {'k', 0}, {'g', 0.2L}, {'g', 0}, {'s', 2, 1.5L}, {'s', 1, 2}, {'y', 0.5L}, {'y', 0}})
+        for (int flags : {0, 1, 2, 4, 5, 6, 38})
+            for (int n : {1, 2, 7, 8, 64}) {
+                SCOPED_TRACE(testing::Message() << s.type << s.p1 << " flags " << flags << " N " << n);
+                check<T>([&](Vec<T>* v) { return api::window_shape<T>(v, s.type, T(s.p1), T(s.p2), flags); },
+                         ref::window(s, n, flags), !(flags & 32), tol<T>(64), n);
+            }
+    // Design windows of 31 taps: Gaussian of bandwidth p, Kaiser for a transition width p, the two sinc rules.
+    const int n = 31;
+    for (double p : {0.05, 0.1, 0.3}) {
+        const LD a = 14.36L * p * (n - 1) + 7.95L, x = 1.12L * n * p;
+        const LD beta = a > 50 ? 0.1102L * (a - 8.7L) : a > 21 ? 0.5842L * std::pow(a - 21, 0.4L) + 0.07886L * (a - 21) : 0;
+        const LD k = x <= 1.25L ? 0.386L / x + 0.453L : x < 5 ? 0.774L - 0.0251L * x : 0.648L;
+        for (const auto& [kind, s] : {std::pair(100, ref::Shape{'g', 1 / (n * pi * p)}), {101, {'k', beta}},
+                                      {102, {'s', pi / 2 / 0.62L, n * p * 0.62L}}, {103, {'s', pi / 2 / k, x * k}}})
+            check<T>([&](Vec<T>* v) { return fir(v, kind, T(p)); }, ref::window(s, n, 6), false, tol<T>(256), kind);
+    }
+    check<T>([&](Vec<T>* v) { return fir(v, 100, T(0)); }, std::vector<LD>(n, 1), false, 0, 1);
+    check<T>([&](Vec<T>* v) { return fir(v, 20, T(0)); }, ref::window(ref::catalogue()[20], n, 6), false, tol<T>(64), 1);
+    // Caller's cosine coefficients, used as given and always rotated.
+    Owned<T> coef({T(0.3), T(0.4), T(0.2), T(0.1)});
+    for (int m : {1, 3, 8, 100})
+        check<T>([&](Vec<T>* v) { return api::pick<T>(dspi_window_cos, dspfi_window_cos)(v, coef.get()); },
+                 ref::window({'c', 0, 0, {0.3L, 0.4L, 0.2L, 0.1L}}, m, 2), true, tol<T>(16), m);
+}
+
+TYPED_TEST(WindowTest, RefusalsLeaveTheVectorUnchanged) {
+    using T = TypeParam;
+    const auto window = api::pick<T>(dspi_window, dspfi_window);
+    const auto cos = api::pick<T>(dspi_window_cos, dspfi_window_cos);
+    const std::vector<T> in{T(1), T(2), T(3), T(4)};
+    Owned<T> cx(in, true), coef({T(0.5), T(0.5)}), ccoef({T(0.5), T(0.5)}, true), v(in), empty;
+    const std::tuple<int, int, char> refused[] = {   // kind, flags, entry (window2, fir, shape)
+        {2, 3, 'w'}, {25, 0, 'w'}, {-1, 0, 'w'}, {100, 0, 'w'}, {2, 4, 'w'}, {13, 4, 'w'}, {1, 4, 'w'}, {1, 8, 'w'},
+        {14, 8, 'w'}, {0, 12, 'w'}, {2, 0, 'f'}, {1, 0, 'f'}, {'g', 8, 's'}, {'k', 3, 's'}, {'y', 11, 's'}};
+    for (const auto& [kind, flags, entry] : refused)
+        for (Vec<T>* r : {v.get(), cx.get(), static_cast<Vec<T>*>(nullptr)}) {   // complex: refused for kind 0 too
+            EXPECT_EQ(entry == 'w'   ? api::pick<T>(dspi_window2, dspfi_window2)(r, kind, flags, T(2))
+                      : entry == 'f' ? api::pick<T>(dspi_window_fir, dspfi_window_fir)(r, kind, T(0))
+                                     : api::window_shape<T>(r, char(kind), T(1), T(1), flags), -1) << kind << " " << flags;
+            EXPECT_EQ(v.scalars(), in);
+        }
+    EXPECT_EQ(window(v.get(), 2, 8), -1);
+    EXPECT_EQ(window(cx.get(), 0, 0), -1);
+    EXPECT_EQ(cos(cx.get(), coef.get()), -1);
+    EXPECT_EQ(cos(v.get(), ccoef.get()), -1);
+    EXPECT_EQ(v.scalars(), in);
+    EXPECT_EQ(window(empty.get(), 9, 0), 0);   // no samples: nothing to do
+    EXPECT_EQ(cos(empty.get(), coef.get()), 0);
+    EXPECT_EQ(window(v.get(), 0, 4 | 16), 0);   // kind 0 without width only rotates, symmetric or not
+    EXPECT_EQ(v.scalars(), (std::vector<T>{T(3), T(4), T(1), T(2)}));
+}
