@@ -1028,8 +1028,9 @@ ZF_API int ZF_CALL dspfs_peak(const dspf_vector *in, dspf_vector *out);
 ZF_API int ZF_CALL dsps_peval (const dsp_vector  *p, const dsp_vector  *x, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_vector *out);
 /* The real x with p(x) = y nearest x0 (one real point): among the real roots of
- * p - y (dsps_proots) the nearest, polished by Newton steps that fall back to
- * bisection inside a bracketing sign change. p identically y gives x0. -1 (out
+ * p - y (dsps_proots; a root counts as real when p - y at its real part is 0 to
+ * rounding, as at a multiple root) the nearest, polished by Newton steps that
+ * fall back to bisection inside a bracketing sign change. p identically y gives x0. -1 (out
  * untouched) for a complex p, NaN y or x0, or when p - y has no real root
  * (a nonzero constant included). */
 ZF_API int ZF_CALL dsps_psolve (const dsp_vector  *p, double y, double x0, dsp_vector  *out);
