@@ -76,6 +76,10 @@ template <class T> int rtop(Vec<T>* v) noexcept {
 template <class T> int ptor(Vec<T>* v) noexcept {
     if (!readable<T>(v)) return -1;
     if (!v->complex) return 0;
+    if (const VecMath<T>* k = vecmath<T>()) {
+        k->polar(v->data, static_cast<std::size_t>(v->points));
+        return 0;
+    }
     map_pairs(v->data, v->data, static_cast<std::size_t>(v->points), [](T& re, T& im) {
         const T m = re;
         T s, c;

@@ -4,11 +4,23 @@
 
 #include "core/libm.hpp"
 #include "elementwise/unary.hpp"
+#include "elementwise/vmath.hpp"
 
 namespace zf {
 
-template <class T> int cos(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return libm::cos(x); }); }
-template <class T> int sin(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return libm::sin(x); }); }
+namespace {
+// Sine or cosine in place, over blocks by the vector kernels when there are some.
+template <class T> int sine_or_cosine(Vec<T>* v, bool cosine) noexcept {
+    const VecMath<T>* k = vecmath<T>();
+    if (!k) return real_only<T>(v, [=](T x) { return cosine ? libm::cos(x) : libm::sin(x); });
+    if (!readable<T>(v) || v->complex) return -1;
+    k->sin_cos(v->data, scalars<T>(*v), cosine);
+    return 0;
+}
+}  // namespace
+
+template <class T> int cos(Vec<T>* v) noexcept { return sine_or_cosine<T>(v, true); }
+template <class T> int sin(Vec<T>* v) noexcept { return sine_or_cosine<T>(v, false); }
 template <class T> int tan(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return libm::tan(x); }); }
 template <class T> int atan(Vec<T>* v) noexcept { return real_only<T>(v, [](T x) { return std::atan(x); }); }
 

@@ -5,14 +5,16 @@
 //
 // Each kernel applies exactly the guards of its element-wise function; the
 // values in between are within 1 ulp of the correctly rounded logarithm,
-// exponential, arc tangent or hypotenuse of the kernel's argument (double
-// kernels about 0.55 ulp; float kernels compute in double and round once).
+// exponential, arc tangent, hypotenuse, sine or cosine of the kernel's
+// argument (double kernels about 0.55 ulp; float kernels compute in double
+// and round once).
 // Decisions: the squared magnitude fed to the complex logarithm is formed in
 // the working precision as before (the kernel's accuracy is that of the
 // logarithm of that value); the float twins form it in double, which only
 // removes a rounding. Lanes whose arguments leave the kernels' range
 // (non-finite, or parts beyond 2^±500 for the arc tangent and hypotenuse) are
-// handed to the C math library, as the portable loop does.
+// handed to the C math library, as the portable loop does; sine and cosine
+// hand arguments beyond 1.6e6 to the library's own scalar functions.
 #pragma once
 
 #include <cstddef>
@@ -31,6 +33,10 @@ template <class T> struct VecMath {
     void (*phase)(const T* in, T* out, std::size_t n) noexcept;
     // Pair k of in becomes out[k]: hypot(re, im) (in may be out).
     void (*mag)(const T* in, T* out, std::size_t n) noexcept;
+    // d[i] = sin d[i] or cos d[i], as the library's own sine and cosine (core/libm.hpp).
+    void (*sin_cos)(T* d, std::size_t n, bool cosine) noexcept;
+    // Pairs (m, phi) in place become (m cos phi, m sin phi).
+    void (*polar)(T* d, std::size_t n) noexcept;
 };
 
 // The kernels for this processor, or null: the portable loops serve.

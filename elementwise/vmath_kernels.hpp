@@ -11,6 +11,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "core/libm.hpp"
 #include "core/vector.hpp"
 #include "elementwise/vmath.hpp"
 #include "elementwise/vmath_simd.hpp"
@@ -201,6 +202,49 @@ inline V hypot_core(V a, V b) noexcept {
     return fma(add(fnma(r, r, s.hi), slo), mul(set1(0.5), recip_approx(r)), r);
 }
 
+// ------------------------------------------------------------ sine, cosine
+// n = round(x 2/π), r = x - n π/2 with π/2 in three parts (the first product
+// exact through the fused multiply-add) as a double-double, then the Taylor
+// kernels of core/libm.cpp with the leading terms formed exactly; for |x| below
+// kTrigLimit (beyond it, and for non-finite x, the scalar functions serve).
+constexpr double kTwoOverPi = 0x1.45f306dc9c883p-1;
+constexpr double kPio2_2 = 0x1.1a62633145c07p-54, kPio2_3 = -0x1.f1976b7ed8fbcp-110;
+constexpr double kTrigLimit = 1.6e6;
+constexpr double kSinS[7] = {1.0 / 120, -1.0 / 5040, 1.0 / 362880, -1.0 / 39916800, 1.0 / 6227020800,
+                             -1.0 / 1307674368000, 1.0 / 355687428096000};
+constexpr double kCosC[8] = {1.0 / 24, -1.0 / 720, 1.0 / 40320, -1.0 / 3628800, 1.0 / 479001600,
+                             -1.0 / 87178291200, 1.0 / 20922789888000, -1.0 / 6402373705728000};
+constexpr double kSixthHi = -1.0 / 6, kSixthLo = -9.2518585385429707e-18;
+
+struct SinCos {
+    V s, c;
+};
+inline SinCos sincos_core(V x) noexcept {
+    const V n = round(mul(x, set1(kTwoOverPi)));
+    const V r1 = fnma(n, set1(kPio2Hi), x);   // exact
+    const V p = mul(n, set1(kPio2_2)), pe = fms(n, set1(kPio2_2), p);
+    const V s0 = sub(r1, p), bp = sub(s0, r1);
+    const V e = sub(sub(r1, sub(s0, bp)), add(p, bp));   // r1 - p = s0 + e exactly
+    const DD r = fast_two_sum(s0, fnma(n, set1(kPio2_3), sub(e, pe)));
+    // sin r: r + (-r^3/6 exactly) + r^5 ..., cos r: (1 - z/2 exactly) + z^2 ...
+    const V z = mul(r.hi, r.hi), zl = fms(r.hi, r.hi, z);
+    const V r3 = mul(r.hi, z), r3l = fma(r.hi, zl, fms(r.hi, z, r3));
+    const V lead = mul(r3, set1(kSixthHi));
+    const V rest = add(fma(r3, set1(kSixthLo), fma(r3l, set1(kSixthHi), fms(r3, set1(kSixthHi), lead))),
+                       fma(mul(r3, z), horner(z, kSinS), mul(r.lo, fnma(set1(0.5), z, set1(1.0)))));
+    const DD sh = fast_two_sum(r.hi, lead);
+    const V sv = add(sh.hi, add(sh.lo, rest));
+    const DD w = fast_two_sum(set1(1.0), mul(set1(-0.5), z));
+    const V cv = add(w.hi, add(w.lo, fnma(r.hi, r.lo, fms(mul(z, z), horner(z, kCosC), mul(set1(0.5), zl)))));
+    // quadrant n mod 4
+    const V q = sub(n, mul(floor(mul(n, set1(0.25))), set1(4.0)));
+    const M odd = or_(eq(q, set1(1.0)), eq(q, set1(3.0)));
+    const V zero = set1(0.0), minus = set1(-0.0);
+    const V s_flip = select(ge(q, set1(2.0)), minus, zero);
+    const V c_flip = select(or_(eq(q, set1(1.0)), eq(q, set1(2.0))), minus, zero);
+    return {xor_(select(odd, cv, sv), s_flip), xor_(select(odd, sv, cv), c_flip)};
+}
+
 // ---------------------------------------------------------------- the loops
 // Runs one(x) over n scalars in place, the last partial vector through a
 // buffer padded with pad.
@@ -278,6 +322,10 @@ inline void pack_block(const T* in, T* out, std::size_t n, Core core, Scalar sca
         load_pairs(in + 2 * k, left, 1.0, re, im);
         const V big = max(abs(re), abs(im));
         const unsigned safe = bits(and_(ge(big, lo), lt(big, hi)));
+        if (left >= static_cast<std::size_t>(W) && safe == (1u << W) - 1) {
+            store(out + k, core(re, im));
+            continue;
+        }
         T buf[W];
         store(buf, core(re, im));
         const std::size_t count = left < static_cast<std::size_t>(W) ? left : static_cast<std::size_t>(W);
@@ -299,8 +347,62 @@ template <class T> void mag_block(const T* in, T* out, std::size_t n) noexcept {
                [](T re, T im) { return std::hypot(re, im); });
 }
 
+template <class T> void sin_cos_block(T* d, std::size_t n, bool cosine) noexcept {
+    const V limit = set1(kTrigLimit);
+    for (std::size_t i = 0; i < n; i += W) {
+        const std::size_t left = n - i;
+        const bool full = left >= static_cast<std::size_t>(W);
+        T buf[W];
+        for (std::size_t j = 0; !full && j < static_cast<std::size_t>(W); ++j) buf[j] = j < left ? d[i + j] : T(0);
+        const V x = load(full ? d + i : buf);
+        const unsigned safe = bits(lt(abs(x), limit));
+        const SinCos sc = sincos_core(x);
+        const V y = cosine ? sc.c : sc.s;
+        if (full && safe == (1u << W) - 1) {
+            store(d + i, y);
+            continue;
+        }
+        T out[W];
+        store(out, y);
+        const std::size_t count = full ? static_cast<std::size_t>(W) : left;
+        for (std::size_t j = 0; j < count; ++j)
+            d[i + j] = ((safe >> j) & 1u) ? out[j] : (cosine ? libm::cos(d[i + j]) : libm::sin(d[i + j]));
+    }
+}
+
+template <class T> void polar_block(T* d, std::size_t n) noexcept {
+    const V limit = set1(kTrigLimit);
+    for (std::size_t k = 0; k < n; k += W) {
+        const std::size_t left = n - k;
+        V m, phi;
+        load_pairs(d + 2 * k, left, 0.0, m, phi);
+        const unsigned safe = bits(lt(abs(phi), limit));
+        const SinCos sc = sincos_core(phi);
+        V lo, hi;
+        interleave(mul(m, sc.c), mul(m, sc.s), lo, hi);
+        T buf[2 * W];
+        store(buf, lo);
+        store(buf + W, hi);
+        const std::size_t count = left < static_cast<std::size_t>(W) ? left : static_cast<std::size_t>(W);
+        for (std::size_t j = 0; j < count; ++j) {
+            T* pair = d + 2 * (k + j);
+            if ((safe >> j) & 1u) {
+                pair[0] = buf[2 * j];
+                pair[1] = buf[2 * j + 1];
+            } else {
+                double s, c;   // in double like the vector lanes, rounded once
+                libm::sincos(static_cast<double>(pair[1]), &s, &c);
+                const double mag = pair[0];
+                pair[0] = static_cast<T>(mag * c);
+                pair[1] = static_cast<T>(mag * s);
+            }
+        }
+    }
+}
+
 template <class T> constexpr VecMath<T> kernels() noexcept {
-    return VecMath<T>{&log_block<T>, &log_pairs_block<T>, &exp_block<T>, &phase_block<T>, &mag_block<T>};
+    return VecMath<T>{&log_block<T>, &log_pairs_block<T>, &exp_block<T>, &phase_block<T>,
+                      &mag_block<T>, &sin_cos_block<T>, &polar_block<T>};
 }
 
 }  // namespace

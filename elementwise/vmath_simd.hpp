@@ -42,6 +42,7 @@ inline M or_(M a, M b) noexcept { return static_cast<M>(a | b); }
 inline unsigned bits(M m) noexcept { return m; }
 inline V select(M m, V a, V b) noexcept { return _mm512_mask_blend_pd(m, b, a); }   // m ? a : b
 inline V round(V a) noexcept { return _mm512_roundscale_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
+inline V floor(V a) noexcept { return _mm512_roundscale_pd(a, _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC); }
 // About 14 bits of 1/a, and 1/a to within an ulp (two Newton steps).
 inline V recip_approx(V a) noexcept { return _mm512_rcp14_pd(a); }
 inline V recip(V a) noexcept {
@@ -113,6 +114,7 @@ inline M or_(M a, M b) noexcept { return _mm256_or_pd(a, b); }
 inline unsigned bits(M m) noexcept { return static_cast<unsigned>(_mm256_movemask_pd(m)); }
 inline V select(M m, V a, V b) noexcept { return _mm256_blendv_pd(b, a, m); }
 inline V round(V a) noexcept { return _mm256_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
+inline V floor(V a) noexcept { return _mm256_floor_pd(a); }
 inline V recip_approx(V a) noexcept { return _mm256_div_pd(set1(1.0), a); }
 inline V recip(V a) noexcept { return _mm256_div_pd(set1(1.0), a); }
 inline void split(V a, V& k, V& m) noexcept {

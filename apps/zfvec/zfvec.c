@@ -21,6 +21,12 @@ static const zfvec_command commands[] = {
                  "  K records of N points (default 1 of 1024) sampled at HZ (default 1): the sum of\n"
                  "  the tones (PHASE in radians) and noise scaled by LEVEL (KIND uniform, gauss,\n"
                  "  exponential or laplace); consecutive records continue one signal\n", cmd_generate},
+    {"spectrum", "usage: zfvec spectrum [--window NAME] [--points N] [--avg MODE] [--two-sided] [--peaks K] IN OUT\n"
+                 "  the spectrum of every record of IN (window NAME, default Flattop; N points,\n"
+                 "  default the record's length, padded to a power of two), power averaged over\n"
+                 "  the records (MODE mean, max, min or exp[:K], exponential of time constant K\n"
+                 "  records), in dB with the window's gain taken out so that a sine of amplitude\n"
+                 "  A reads 20 log10(A); writes it to OUT and prints the K strongest peaks (5)\n", cmd_spectrum},
     {"plot", "usage: zfvec plot IN [-o OUT.svg] [--db] [--title T] [--freq] [--ylabel T]\n"
              "  draw every vector of IN as an SVG line plot (default OUT: IN with .svg), one\n"
              "  panel each; complex vectors as magnitudes; --db draws 20 log10 |x|; --freq\n"

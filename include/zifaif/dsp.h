@@ -607,6 +607,36 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
+/** Spectrum of a record in one call. Flags: 1 inverse (spectrum to record),
+ * 2 two-sided (no factor 2; complex transform with DC in the middle, also for
+ * real input), 4 scale by the transform length instead of 2 with centred
+ * padding, 8 no window (only its rotation), 16 centred padding with kind 0
+ * rotated, 32 complex inverse result, 128 raw (plain transform of the padded
+ * selection); 4, 16 and 128 ignore points and fraction.
+ * Forward: M = the power of two >= points (points < 1: the input's points);
+ * the first round(L) samples, L = min(M fraction, input points), fraction
+ * outside (0, 1] counting as 1, are windowed with mean normalisation over width
+ * L (kinds without a width, 1 and 14 .. 24, span the selection), scaled by 2,
+ * zero-padded to M (rescaled by M/L unless flag 4) and transformed: a real input
+ * gives M/2 + 1 bins, else M bins with DC in the middle.
+ * Inverse: points < 1 means 2 (input points) - 2 for a real result, else the
+ * input's points; the record is rebuilt at M points, cut to round(M fraction),
+ * rotated back and scaled back. 0 or -1. */
+ZF_API int ZF_CALL dsph_fft (const dsp_vector  *in, dsp_vector  *out, int points, double fraction, int kind, int flags);
+ZF_API int ZF_CALL dspfh_fft(const dspf_vector *in, dspf_vector *out, int points, float  fraction, int kind, int flags);
+/** dsph_fft for a record of any length, whole, through the arbitrary-length
+ * transforms (flag 4 scales by the length). The inverse of N bins gives a real
+ * record of 2N - 2 samples (an odd length needs flag 32 and the full two-sided
+ * spectrum), with flags 2, 32 or 128 a complex record of N samples. 0 or -1. */
+ZF_API int ZF_CALL dsph_dft (const dsp_vector  *in, dsp_vector  *out, int kind, int flags);
+ZF_API int ZF_CALL dspfh_dft(const dspf_vector *in, dspf_vector *out, int kind, int flags);
+/** dsph_fft with points 0 between caller arrays: in holds points samples (pairs
+ * when complex is nonzero); complex describes the input only: out receives the
+ * result in its own shape, (result complex ? 2 : 1) * result points doubles
+ * (real forward: M + 2, two-sided: 2M, real inverse: M, with M the power of two
+ * >= points). Caller-pops convention, plain name; no single-precision twin. */
+ZF_API int ZF_CDECL cf_dsph_fft(const double *in, double *out, int points, int complex, double fraction, int kind, int flags);
+
 /** One step of averaging: acc folds in the record in as record number count of a
  * run. Flag 32 first replaces the input by its magnitude squared (in scratch, or
  * a temporary when scratch is null or is one of the other records). count <= 1:
@@ -803,6 +833,45 @@ ZF_API int ZF_CALL dspfd_rsmp(const dspf_vector *in, dspf_vector *out, int mode,
 ZF_API int ZF_CALL dspd_rsmp2 (const dsp_vector  *in, dsp_vector  *out, int mode, int which, double ratio, dsp_vector  *history);
 ZF_API int ZF_CALL dspfd_rsmp2(const dspf_vector *in, dspf_vector *out, int mode, int which, float  ratio, dspf_vector *history);
 
+/** The streaming resampler. Calling order: coef_init, coef_alloc, coef_setup;
+ * state_init, state_alloc, state_reset; dsph_rsmp per block; state_destroy,
+ * coef_destroy. Init, destroy, alloc and reset of a null record return 0.
+ * A ratio below 1 (more output samples) is kept whole as the fractional
+ * ratio: the field's 1 <= r < 2 holds only for ratios of 1 and above. */
+/** Empty vectors, zero fields. */
+ZF_API int ZF_CALL dsph_rsmp_coef_init (dsph_rsmp_coef  *coef);
+ZF_API int ZF_CALL dspfh_rsmp_coef_init(dspfh_rsmp_coef *coef);
+/** Releases the vectors, then as dsph_rsmp_coef_init. */
+ZF_API int ZF_CALL dsph_rsmp_coef_destroy (dsph_rsmp_coef  *coef);
+ZF_API int ZF_CALL dspfh_rsmp_coef_destroy(dspfh_rsmp_coef *coef);
+/** Fills the half-band filter, the prefilter and the kernel table; reserved must be null. */
+ZF_API int ZF_CALL dsph_rsmp_coef_alloc (dsph_rsmp_coef  *coef, void *reserved);
+ZF_API int ZF_CALL dspfh_rsmp_coef_alloc(dspfh_rsmp_coef *coef, void *reserved);
+/** Splits ratio (<= 0 taken as 1; not finite: -1) into octaves and the
+ * remaining ratio and sets the start-up skips; force runs the fractional
+ * stage even at 1; reserved must be null. */
+ZF_API int ZF_CALL dsph_rsmp_coef_setup (dsph_rsmp_coef  *coef, double ratio, int force, void *reserved);
+ZF_API int ZF_CALL dspfh_rsmp_coef_setup(dspfh_rsmp_coef *coef, float  ratio, int force, void *reserved);
+/** Empty vectors and arrays, zero counts. */
+ZF_API int ZF_CALL dsph_rsmp_state_init (dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp_state_init(dspfh_rsmp_state *state);
+/** Releases the vectors and the stage arrays, then as dsph_rsmp_state_init. */
+ZF_API int ZF_CALL dsph_rsmp_state_destroy (dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp_state_destroy(dspfh_rsmp_state *state);
+/** Sizes the state for the coefficient record and real (0) or complex input. */
+ZF_API int ZF_CALL dsph_rsmp_state_alloc (const dsph_rsmp_coef  *coef, dsph_rsmp_state  *state, int complex);
+ZF_API int ZF_CALL dspfh_rsmp_state_alloc(const dspfh_rsmp_coef *coef, dspfh_rsmp_state *state, int complex);
+/** Zeroes every history and phase and arms the start-up skips. */
+ZF_API int ZF_CALL dsph_rsmp_state_reset (const dsph_rsmp_coef  *coef, dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp_state_reset(const dspfh_rsmp_coef *coef, dspfh_rsmp_state *state);
+/** Resamples one block; out->points on entry is the number of samples wanted
+ * (at least the block's share, about points / ratio + 1, for a seamless
+ * stream) and the output is cut to it. Scratch and state may be null (a null
+ * state: a lone block, nothing dropped); the output may be the input. The
+ * coefficient record's filters must be real. */
+ZF_API int ZF_CALL dsph_rsmp (const dsp_vector  *in, dsp_vector  *out, dsp_vector  *scratch, const dsph_rsmp_coef  *coef, dsph_rsmp_state  *state);
+ZF_API int ZF_CALL dspfh_rsmp(const dspf_vector *in, dspf_vector *out, dspf_vector *scratch, const dspfh_rsmp_coef *coef, dspfh_rsmp_state *state);
+
 /* ------------------------------------------------------------------------ */
 /* Signal generators                                                         */
 /* ------------------------------------------------------------------------ */
@@ -931,6 +1000,77 @@ ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
 /* ------------------------------------------------------------------------ */
 /* Histogram, peak search, polynomials and regression                        */
 /* ------------------------------------------------------------------------ */
+
+/* Polynomials hold their coefficients lowest power first (as dspb_pmul and
+ * dspi_pdiffer); leading zero coefficients lower the degree. Every output may
+ * be an input record. */
+/* Counts of the real samples in `bins` equal bins between lo and hi: bin k holds
+ * lo + k w <= x < lo + (k + 1) w, w = (hi - lo) / bins, the last bin also x = hi;
+ * samples outside [lo, hi] and NaN are not counted. out: bins real points,
+ * delta w (bin k is centred on lo + (k + 1/2) w); single-precision counts are
+ * exact up to 2^24. -1 (out untouched) for complex input, bins < 1, or limits
+ * that are not finite with lo < hi. */
+ZF_API int ZF_CALL dsps_hist (const dsp_vector  *in, double lo, double hi, int bins, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_hist(const dspf_vector *in, float  lo, float  hi, int bins, dspf_vector *out);
+/* Strongest peak of a real vector: out = (position, height), two real points,
+ * position in samples (times delta for the abscissa). The largest sample (the
+ * first of equals; NaN ignored) and its neighbours give the vertex of their
+ * parabola; a run of equal largest samples (a plateau) gives its centre and
+ * its value; at the first or last sample, or beside a NaN, the sample itself.
+ * -1 (out untouched) for complex input or no sample other than NaN. */
+ZF_API int ZF_CALL dsps_peak (const dsp_vector  *in, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_peak(const dspf_vector *in, dspf_vector *out);
+/* p at every sample of x by Horner (in double): out gets x's points and delta,
+ * complex when p or x is; an empty p gives zeros; results beyond the guard
+ * 1e100 (1e15) are held at it. 0 or -1. */
+ZF_API int ZF_CALL dsps_peval (const dsp_vector  *p, const dsp_vector  *x, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_vector *out);
+/* The real x with p(x) = y nearest x0 (one real point): among the real roots of
+ * p - y (dsps_proots) the nearest, polished by Newton steps that fall back to
+ * bisection inside a bracketing sign change. p identically y gives x0. -1 (out
+ * untouched) for a complex p, NaN y or x0, or when p - y has no real root
+ * (a nonzero constant included). */
+ZF_API int ZF_CALL dsps_psolve (const dsp_vector  *p, double y, double x0, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_psolve(const dspf_vector *p, float  y, float  x0, dspf_vector *out);
+/* The complex x with p(x) = y nearest x0 (one complex point); p real or complex.
+ * p identically y gives x0. -1 (out untouched) for a NaN argument or when
+ * p - y is a nonzero constant. */
+ZF_API int ZF_CALL dsps_pcsolve (const dsp_vector  *p, double y_re, double y_im, double x0_re, double x0_im, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_pcsolve(const dspf_vector *p, float  y_re, float  y_im, float  x0_re, float  x0_im, dspf_vector *out);
+/* All d roots of p of degree d (real or complex coefficients), complex, d points,
+ * ascending by real part then imaginary part; zero low coefficients give exact
+ * zero roots; a real p gives exactly real roots where a root has no conjugate
+ * partner. Aberth-Ehrlich iteration in double from the circles of the Newton
+ * polygon, p evaluated by compensated Horner (as in twice the precision), each
+ * root polished by a Newton step: the roots are those of the coefficients as
+ * stored, so the error is the conditioning of the roots times the rounding of
+ * the coefficients. Measured in double: roots 1 .. 20 from the coefficients of
+ * their product (rounded to double) within 1e-3, 20 roots evenly spaced on
+ * [-1, 1] within 1e-10, five roots 1e-3 apart within 1e-3, a triple root of
+ * integer coefficients within 1e-9; an m-fold root of rounded coefficients is
+ * good to about eps^(1/m). The single-precision twin computes in double.
+ * A nonzero constant gives no roots; -1 (out untouched) for an empty or zero p. */
+ZF_API int ZF_CALL dsps_proots (const dsp_vector  *p, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_proots(const dspf_vector *p, dspf_vector *out);
+/* dsps_proots in place: v becomes its roots. */
+ZF_API int ZF_CALL dspi_proots (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_proots(dspf_vector *v);
+/* In place: the n roots (real or complex) become the n + 1 coefficients of the
+ * monic polynomial (x - r_0) ... (x - r_(n-1)), complex as the roots; no roots
+ * give the constant 1. 0 or -1. */
+ZF_API int ZF_CALL dspi_pztoc (dsp_vector  *v);
+ZF_API int ZF_CALL dspfi_pztoc(dspf_vector *v);
+/* Least-squares line y = slope x + offset through the real samples against
+ * x_k = k delta: out = (slope, offset, r), three real points, r the correlation
+ * coefficient (0 when the samples have no spread). Centred sums in double.
+ * -1 (out untouched) for complex input, fewer than two samples or delta 0;
+ * NaN samples give NaN results. */
+ZF_API int ZF_CALL dsps_lin_regres (const dsp_vector  *y, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_lin_regres(const dspf_vector *y, dspf_vector *out);
+/* As dsps_lin_regres against the abscissae x (real, as many points as y); -1
+ * also when the abscissae are all equal or one is NaN. */
+ZF_API int ZF_CALL dsps_lin_regres2 (const dsp_vector  *x, const dsp_vector  *y, dsp_vector  *out);
+ZF_API int ZF_CALL dspfs_lin_regres2(const dspf_vector *x, const dspf_vector *y, dspf_vector *out);
 
 #ifdef __cplusplus
 }

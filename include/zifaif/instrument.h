@@ -119,6 +119,19 @@ ZF_API int ZF_CDECL vfps_SmoothCpx(const float *src, float *dst, int total, int 
 /* Circle fit                                                                */
 /* ------------------------------------------------------------------------ */
 
+/* Centre (centre[0] real, centre[1] imaginary), radius and residual of the
+ * circle best fitting the complex points [start, stop) of trace (a resonator's
+ * reflection locus, for instance): Taubin's algebraic fit, refined by
+ * Levenberg-Marquardt steps on the geometric distances |z - centre| - radius.
+ * residual (may be null) receives the root mean square of those distances.
+ * The float twin computes in double. Returns the number of points fitted
+ * (stop - start), or -1 with nothing written for a null trace, centre or
+ * radius, a negative start, fewer than three points, points that all
+ * coincide or are not numbers, or points on a straight line (within about
+ * 1e-8 of their spread). */
+ZF_API int ZF_CDECL vfpd_CircleFit(const double *trace, int start, int stop, double *centre, double *radius, double *residual);
+ZF_API int ZF_CDECL vfps_CircleFit(const float *trace, int start, int stop, float *centre, float *radius, float *residual);
+
 /* ------------------------------------------------------------------------ */
 /* Complex matrix kernels                                                    */
 /* ------------------------------------------------------------------------ */
@@ -198,6 +211,29 @@ ZF_API int ZF_CDECL GetPerfData2(long long *frequency, long long *r1, long long 
 /* ------------------------------------------------------------------------ */
 /* Circular interpolation                                                    */
 /* ------------------------------------------------------------------------ */
+
+/* Interpolation of complex traces (calibration error terms, for instance) along
+ * the circle through three neighbouring points instead of straight lines: the
+ * new point lies on that circle at the angle a parabola through the three
+ * points' angles against frequency gives, so points on a circle whose angle is
+ * at most quadratic in frequency come back to rounding. Three points that are
+ * collinear (the sine of the turn at the middle one below 1.5e-8) or
+ * coincide fall back to the straight line through the two points around the
+ * frequency. Frequencies must be strictly increasing (no NaN). */
+/* Resamples the whole trace: the n points (complex, at freq) at the m
+ * frequencies newFreq into newPoints (another array), each from the three
+ * points centred on the trace point nearest it (the lower on a tie; the first
+ * or last three at the ends); two points give the straight line, one point a
+ * constant; frequencies at or beyond either end take that end's point, and a
+ * NaN frequency gives a NaN point. newFreq may be in any order. Returns m, or
+ * -1 with nothing written for a null array, n < 1, m < 0 or bad freq. */
+ZF_API int ZF_CDECL CircularInterpolation(const double *freq, const double *points, int n, const double *newFreq, double *newPoints, int m);
+/* One point: the value at frequency f (which may lie outside freq[0] ..
+ * freq[2]: the arc is extended) from the three points (complex, at freq[0] <
+ * freq[1] < freq[2]) into result (one complex point). Returns 1 along the arc,
+ * 0 along the straight line (collinear points), -1 with nothing written for a
+ * null pointer, bad freq or a NaN f. */
+ZF_API int ZF_CDECL InterpolateCircular(const double *freq, const double *points, double f, double *result);
 
 #ifdef __cplusplus
 }

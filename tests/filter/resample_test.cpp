@@ -12,18 +12,6 @@ namespace {
 template <class T> class ResampleTest : public ::testing::Test {};
 TYPED_TEST_SUITE(ResampleTest, Precisions);
 
-// Random block sizes, 0 and 1 among them, that add up to n.
-std::vector<int> blocks(int n, unsigned seed) {
-    std::mt19937 gen(seed);
-    std::vector<int> b{0, 1};
-    for (int left = n - 1; left > 0;) {
-        const int k = std::min(left, static_cast<int>(gen() % 40));
-        b.push_back(k);
-        left -= k;
-    }
-    return b;
-}
-
 // Decimation against every factor-th sample, fed in random blocks with one phase.
 TYPED_TEST(ResampleTest, DecimationKeepsEveryFactorthSampleAcrossBlocks) {
     using T = TypeParam;

@@ -9,6 +9,7 @@
 namespace ref {
 
 using cl = std::complex<long double>;
+constexpr long double pi_fir = 3.141592653589793238462643383279502884L;
 
 // Samples of a record's scalars (pairs when complex).
 template <class T> std::vector<cl> samples(const std::vector<T>& s, bool complex) {
@@ -33,7 +34,7 @@ inline std::vector<cl> convolve(const std::vector<cl>& x, const std::vector<cl>&
 // H(f) = sum h[k] e^(-j 2 pi f k).
 template <class T> cl response(const std::vector<T>& h, long double f) {
     cl s = 0;
-    for (std::size_t k = 0; k < h.size(); ++k) s += static_cast<long double>(h[k]) * std::polar(1.0L, -2 * 3.141592653589793238L * f * k);
+    for (std::size_t k = 0; k < h.size(); ++k) s += static_cast<long double>(h[k]) * std::polar(1.0L, -2 * pi_fir * f * k);
     return s;
 }
 
