@@ -239,8 +239,10 @@ ZF_API int ZF_CALL dspfu_tof(const dspf_vector *src, dspf_vector *dst);
 /** Orders a against b within tol into *result (-1, 0, 1); returns -1 when the lengths differ. */
 ZF_API int ZF_CALL dsp_cmp (const dsp_vector  *a, const dsp_vector  *b, double tol, int *result);
 ZF_API int ZF_CALL dspf_cmp(const dspf_vector *a, const dspf_vector *b, float  tol, int *result);
-/** Install an allocation hook (null restores the standard allocator); the
- * previous hook is stored in *previous when previous is not null. Return 0. */
+/** Install the allocation hooks of a precision: dsp_lib_alloc, dsp_lib_realloc
+ * and dsp_lib_free (dspf_lib_alloc, dspf_lib_realloc, dspf_lib_free); null
+ * restores the standard allocator; the previous hook is stored in *previous
+ * when previous is not null. Return 0. */
 ZF_API int ZF_CALL dsp_lib_alloc   (dsp_alloc_hook    hook, dsp_alloc_hook    *previous);
 ZF_API int ZF_CALL dsp_lib_realloc (dsp_realloc_hook  hook, dsp_realloc_hook  *previous);
 ZF_API int ZF_CALL dsp_lib_free    (dsp_free_hook     hook, dsp_free_hook     *previous);
@@ -256,8 +258,9 @@ ZF_API int ZF_CALL dspf_free_internal(void);
 /** The library's version number, 205. */
 ZF_API int ZF_CALL dsp_version (void);
 ZF_API int ZF_CALL dspf_version(void);
-/** Floating-point control word entry points; no such register on x86: get and
- * set return 0, set_runfast does nothing. Caller-pops convention. */
+/** Floating-point control word entry points; no such register on x86:
+ * get_fpscr and set_fpscr return 0, set_runfast does nothing. Caller-pops
+ * convention. */
 ZF_API int  ZF_CDECL get_fpscr(void);
 ZF_API int  ZF_CDECL set_fpscr(int word);
 ZF_API void ZF_CDECL set_runfast(void);
