@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "core/libm.hpp"
 #include "elementwise/convert.hpp"
 #include "filter/fir.hpp"
 
@@ -39,10 +40,10 @@ template <class T, class F> void antisymmetric(T* h, Pairs p, F value) {
 }
 
 // sin(x)/x with 1 where x is exactly 0.
-template <class T> T sinc(T x) { return x == T(0) ? T(1) : std::sin(x) / x; }
+template <class T> T sinc(T x) { return x == T(0) ? T(1) : libm::sin(x) / x; }
 // (cos x - 1)/x^2, -1/2 near 0.
 template <class T> T cos_quotient(T x) {
-    return x * x < T(1.430511474609375e-6) ? T(-0.5) : (std::cos(x) - T(1)) / (x * x);
+    return x * x < T(1.430511474609375e-6) ? T(-0.5) : (libm::cos(x) - T(1)) / (x * x);
 }
 
 template <class T> void lowpass(T* h, Pairs p, T f) {
@@ -56,7 +57,7 @@ template <class T> void bandpass(T* h, Pairs p, T f1, T f2) {
     lowpass<T>(h, p, f2 / T(2));
     const T w = Traits<T>::two_pi * f1;
     for (int i = 0; i < p.count(); ++i) {
-        const T c = T(2) * std::cos(w * p.distance<T>(i));
+        const T c = T(2) * libm::cos(w * p.distance<T>(i));
         h[p.left(i)] *= c;
         h[p.right(i)] *= c;
     }
@@ -114,7 +115,7 @@ template <class T> void kaiser(T* h, Pairs p, T beta) {
     bessel_like<T>(h, p, a, d, std::sinh(ra) / ra, [](T y) {
         if (y <= T(0)) {
             const T r = std::sqrt(-y);
-            return r == T(0) ? T(1) : std::sin(r) / r;
+            return r == T(0) ? T(1) : libm::sin(r) / r;
         }
         const T r = std::sqrt(y);
         return std::sinh(r) / r;
@@ -148,7 +149,7 @@ template <class T> void sinh_kernel(T* h, Pairs p, T beta) {
     }
     const T a = beta * beta, d = T(4) * beta / T(n + 1);
     bessel_like<T>(h, p, a, d, std::sinh(beta), [](T y) {
-        return y <= T(0) ? std::sin(std::sqrt(-y)) : std::sinh(std::sqrt(y));
+        return y <= T(0) ? libm::sin(std::sqrt(-y)) : std::sinh(std::sqrt(y));
     });
     unit_sum<T>(h, n);
 }
@@ -179,7 +180,7 @@ template <class T> int design(T* h, int n, int kind, T f1, T f2) {
     case DSP_FIR_DIFF:
         antisymmetric<T>(h, p, [&](T t) {
             const T x = w * t;
-            return x == T(0) ? T(0) : (std::cos(x) - std::sin(x) / x) / x * w * two_f;
+            return x == T(0) ? T(0) : (libm::cos(x) - libm::sin(x) / x) / x * w * two_f;
         });
         return 0;
     case DSP_FIR_GAUSS: return -1;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "core/random.hpp"
 #include "elementwise/convert.hpp"
 
@@ -15,8 +16,8 @@ constexpr int kSeedBlock = 256;
 
 // Cosine and sine of an angle formed in double, so that the seeds of the
 // single twin are exact to its own precision.
-inline double seed_cos(double a) noexcept { return std::cos(a); }
-inline double seed_sin(double a) noexcept { return std::sin(a); }
+inline double seed_cos(double a) noexcept { return libm::cos(a); }
+inline double seed_sin(double a) noexcept { return libm::sin(a); }
 
 // Calls put(n, cos, sin) for the angle w n + phase, n = 0 .. count-1. Each
 // block of kSeedBlock samples starts from an exact seed and is advanced by
@@ -98,8 +99,8 @@ template <class T> void complex_noise(T* d, int n, int kind) noexcept {
             const double u = std::max(random_uniform(), static_cast<double>(Traits<T>::tiny));
             const double r = std::sqrt(-2.0 * std::log(u));
             const double t = 6.283185307179586 * random_uniform();
-            x = r * std::cos(t);
-            y = r * std::sin(t);
+            x = r * libm::cos(t);
+            y = r * libm::sin(t);
         }
         d[2 * k] = static_cast<T>(x);
         d[2 * k + 1] = static_cast<T>(y);

@@ -2,6 +2,7 @@
 // centre, mirrored about index N/2, and the three normalisations.
 #include <cmath>
 
+#include "core/libm.hpp"
 #include "elementwise/bessel.hpp"
 #include "window/catalogue.hpp"
 #include "window/window.hpp"
@@ -10,8 +11,8 @@ namespace zf {
 namespace win {
 namespace {
 
-inline double wcos(double x) noexcept { return std::cos(x); }
-inline double wsin(double x) noexcept { return std::sin(x); }
+inline double wcos(double x) noexcept { return libm::cos(x); }
+inline double wsin(double x) noexcept { return libm::sin(x); }
 
 // Writes f(d) for every sample at distance d from the centre c = n/2: w[c] and
 // w[c -+ m] for m up to (n - 1)/2, and for even n the one sample w[0] at
