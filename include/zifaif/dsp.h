@@ -239,8 +239,10 @@ ZF_API int ZF_CALL dspfu_tof(const dspf_vector *src, dspf_vector *dst);
 /** Orders a against b within tol into *result (-1, 0, 1); returns -1 when the lengths differ. */
 ZF_API int ZF_CALL dsp_cmp (const dsp_vector  *a, const dsp_vector  *b, double tol, int *result);
 ZF_API int ZF_CALL dspf_cmp(const dspf_vector *a, const dspf_vector *b, float  tol, int *result);
-/** Install an allocation hook (null restores the standard allocator); the
- * previous hook is stored in *previous when previous is not null. Return 0. */
+/** Install the allocation hooks of a precision: dsp_lib_alloc, dsp_lib_realloc
+ * and dsp_lib_free (dspf_lib_alloc, dspf_lib_realloc, dspf_lib_free); null
+ * restores the standard allocator; the previous hook is stored in *previous
+ * when previous is not null. Return 0. */
 ZF_API int ZF_CALL dsp_lib_alloc   (dsp_alloc_hook    hook, dsp_alloc_hook    *previous);
 ZF_API int ZF_CALL dsp_lib_realloc (dsp_realloc_hook  hook, dsp_realloc_hook  *previous);
 ZF_API int ZF_CALL dsp_lib_free    (dsp_free_hook     hook, dsp_free_hook     *previous);
@@ -256,8 +258,9 @@ ZF_API int ZF_CALL dspf_free_internal(void);
 /** The library's version number, 205. */
 ZF_API int ZF_CALL dsp_version (void);
 ZF_API int ZF_CALL dspf_version(void);
-/** Floating-point control word entry points; no such register on x86: get and
- * set return 0, set_runfast does nothing. Caller-pops convention. */
+/** Floating-point control word entry points; no such register on x86:
+ * get_fpscr and set_fpscr return 0, set_runfast does nothing. Caller-pops
+ * convention. */
 ZF_API int  ZF_CDECL get_fpscr(void);
 ZF_API int  ZF_CDECL set_fpscr(int word);
 ZF_API void ZF_CDECL set_runfast(void);
@@ -607,6 +610,37 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector *v);
 /* Handle-based spectra, averaging and correlation                           */
 /* ------------------------------------------------------------------------ */
 
+/** Spectrum of a record in one call. Flags: 1 inverse (spectrum to record),
+ * 2 two-sided (no factor 2; complex transform with DC in the middle, also for
+ * real input), 4 scale by the transform length instead of 2 with centred
+ * padding, 8 no window (only its rotation), 16 centred padding with kind 0
+ * rotated, 32 complex inverse result, 128 raw (plain transform of the padded
+ * selection); 4, 16 and 128 ignore points and fraction.
+ * Forward: M = the power of two >= points (points < 1: the input's points);
+ * the first round(L) samples, L = min(M fraction, input points), fraction
+ * outside (0, 1] counting as 1, are windowed with mean normalisation over width
+ * L (kinds without a width, 1 and 14 .. 24, span the selection; a complex
+ * record is windowed part by part with the same real window), scaled by 2,
+ * zero-padded to M (rescaled by M/L unless flag 4) and transformed: a real input
+ * gives M/2 + 1 bins, else M bins with DC in the middle.
+ * Inverse: points < 1 means 2 (input points) - 2 for a real result, else the
+ * input's points; the record is rebuilt at M points, cut to round(M fraction),
+ * rotated back and scaled back. 0 or -1. */
+ZF_API int ZF_CALL dsph_fft (const dsp_vector  *in, dsp_vector  *out, int points, double fraction, int kind, int flags);
+ZF_API int ZF_CALL dspfh_fft(const dspf_vector *in, dspf_vector *out, int points, float  fraction, int kind, int flags);
+/** dsph_fft for a record of any length, whole, through the arbitrary-length
+ * transforms (flag 4 scales by the length). The inverse of N bins gives a real
+ * record of 2N - 2 samples (an odd length needs flag 32 and the full two-sided
+ * spectrum), with flags 2, 32 or 128 a complex record of N samples. 0 or -1. */
+ZF_API int ZF_CALL dsph_dft (const dsp_vector  *in, dsp_vector  *out, int kind, int flags);
+ZF_API int ZF_CALL dspfh_dft(const dspf_vector *in, dspf_vector *out, int kind, int flags);
+/** dsph_fft with points 0 between caller arrays: in holds points samples (pairs
+ * when complex is nonzero); complex describes the input only: out receives the
+ * result in its own shape, (result complex ? 2 : 1) * result points doubles
+ * (real forward: M + 2, two-sided: 2M, real inverse: M, with M the power of two
+ * >= points). Caller-pops convention, plain name; no single-precision twin. */
+ZF_API int ZF_CDECL cf_dsph_fft(const double *in, double *out, int points, int complex, double fraction, int kind, int flags);
+
 /** One step of averaging: acc folds in the record in as record number count of a
  * run. Flag 32 first replaces the input by its magnitude squared (in scratch, or
  * a temporary when scratch is null or is one of the other records). count <= 1:
@@ -743,9 +777,10 @@ ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
 /** Causal FIR filtering y[n] = sum h[k] x[n-k], output as long as the input
  * (complex when the input or h is); state (or null for zeros) carries the
  * last M-1 inputs, oldest first, so blocks join without a seam. Long real
- * responses run by overlap-save FFT convolution with a cached coefficient
- * transform keyed on the values and the transform length, which depends on
- * M only, so streamed blocks equal one whole call up to rounding. M <= 0:
+ * responses (M >= 46, 36 on complex input, M-1 <= N) run by overlap-save
+ * FFT convolution; its cached coefficient transform is keyed on the values
+ * and the transform length, so streamed blocks of any sizes equal one whole
+ * call up to rounding. M <= 0:
  * the output is a copy. out may be in; -1 when in or out shares storage with
  * state or out with h. */
 ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
@@ -996,8 +1031,9 @@ ZF_API int ZF_CALL dspfs_peak(const dspf_vector *in, dspf_vector *out);
 ZF_API int ZF_CALL dsps_peval (const dsp_vector  *p, const dsp_vector  *x, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_vector *out);
 /* The real x with p(x) = y nearest x0 (one real point): among the real roots of
- * p - y (dsps_proots) the nearest, polished by Newton steps that fall back to
- * bisection inside a bracketing sign change. p identically y gives x0. -1 (out
+ * p - y (dsps_proots; a root counts as real when p - y at its real part is 0 to
+ * rounding, as at a multiple root) the nearest, polished by Newton steps that
+ * fall back to bisection inside a bracketing sign change. p identically y gives x0. -1 (out
  * untouched) for a complex p, NaN y or x0, or when p - y has no real root
  * (a nonzero constant included). */
 ZF_API int ZF_CALL dsps_psolve (const dsp_vector  *p, double y, double x0, dsp_vector  *out);
