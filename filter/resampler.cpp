@@ -160,7 +160,8 @@ int stage(const Vec<T>& src, Vec<T>* dst, const Half<T>& f, Vec<T>* hist, Vec<T>
 
 template <class T> void drop_front(Vec<T>* v, int& pending) noexcept {
     const int d = v->points < pending ? v->points : pending;
-    if (d > 0) shift<T>(v, d);
+    if (d <= 0) return;
+    shift<T>(v, d);
     pending -= d;
 }
 

@@ -36,7 +36,7 @@ std::vector<double> ref_rsmp(const std::vector<T>& x, int w, const T* tab, int k
             double acc = 0;
             for (int j = 0; j < k; ++j) {
                 const T u = static_cast<T>(q) * (static_cast<T>(j) - mu);  // in the twin's precision
-                const long a = static_cast<long>(u);
+                const long a = std::min<long>(static_cast<long>(u), q * k - mode);  // u may round up to M
                 const double t = mode == 0 ? tab[1 + a] : tab[1 + a] + (u - a) * (tab[2 + a] - tab[1 + a]);
                 acc += (i + j < 0 ? 0.0 : static_cast<double>(x[(i + j) * w + c])) * t;
             }
