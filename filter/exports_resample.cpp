@@ -17,4 +17,23 @@ ZF_API int ZF_CALL dspfd_rsmp(const dspf_vector* in, dspf_vector* out, int mode,
 ZF_API int ZF_CALL dspd_rsmp2 (const dsp_vector*  in, dsp_vector*  out, int mode, int which, double ratio, dsp_vector*  history) noexcept { return zf::rsmp2<double>(in, out, mode, which, ratio, history); }
 ZF_API int ZF_CALL dspfd_rsmp2(const dspf_vector* in, dspf_vector* out, int mode, int which, float  ratio, dspf_vector* history) noexcept { return zf::rsmp2<float>(in, out, mode, which, ratio, history); }
 
+ZF_API int ZF_CALL dsph_rsmp_coef_init (dsph_rsmp_coef*  coef) noexcept { return zf::rsmp_coef_init<double>(coef); }
+ZF_API int ZF_CALL dspfh_rsmp_coef_init(dspfh_rsmp_coef* coef) noexcept { return zf::rsmp_coef_init<float>(coef); }
+ZF_API int ZF_CALL dsph_rsmp_coef_destroy (dsph_rsmp_coef*  coef) noexcept { return zf::rsmp_coef_destroy<double>(coef); }
+ZF_API int ZF_CALL dspfh_rsmp_coef_destroy(dspfh_rsmp_coef* coef) noexcept { return zf::rsmp_coef_destroy<float>(coef); }
+ZF_API int ZF_CALL dsph_rsmp_coef_alloc (dsph_rsmp_coef*  coef, void* reserved) noexcept { return zf::rsmp_coef_alloc<double>(coef, reserved); }
+ZF_API int ZF_CALL dspfh_rsmp_coef_alloc(dspfh_rsmp_coef* coef, void* reserved) noexcept { return zf::rsmp_coef_alloc<float>(coef, reserved); }
+ZF_API int ZF_CALL dsph_rsmp_coef_setup (dsph_rsmp_coef*  coef, double ratio, int force, void* reserved) noexcept { return zf::rsmp_coef_setup<double>(coef, ratio, force, reserved); }
+ZF_API int ZF_CALL dspfh_rsmp_coef_setup(dspfh_rsmp_coef* coef, float  ratio, int force, void* reserved) noexcept { return zf::rsmp_coef_setup<float>(coef, ratio, force, reserved); }
+ZF_API int ZF_CALL dsph_rsmp_state_init (dsph_rsmp_state*  state) noexcept { return zf::rsmp_state_init<double>(state); }
+ZF_API int ZF_CALL dspfh_rsmp_state_init(dspfh_rsmp_state* state) noexcept { return zf::rsmp_state_init<float>(state); }
+ZF_API int ZF_CALL dsph_rsmp_state_destroy (dsph_rsmp_state*  state) noexcept { return zf::rsmp_state_destroy<double>(state); }
+ZF_API int ZF_CALL dspfh_rsmp_state_destroy(dspfh_rsmp_state* state) noexcept { return zf::rsmp_state_destroy<float>(state); }
+ZF_API int ZF_CALL dsph_rsmp_state_alloc (const dsph_rsmp_coef*  coef, dsph_rsmp_state*  state, int complex) noexcept { return zf::rsmp_state_alloc<double>(coef, state, complex); }
+ZF_API int ZF_CALL dspfh_rsmp_state_alloc(const dspfh_rsmp_coef* coef, dspfh_rsmp_state* state, int complex) noexcept { return zf::rsmp_state_alloc<float>(coef, state, complex); }
+ZF_API int ZF_CALL dsph_rsmp_state_reset (const dsph_rsmp_coef*  coef, dsph_rsmp_state*  state) noexcept { return zf::rsmp_state_reset<double>(coef, state); }
+ZF_API int ZF_CALL dspfh_rsmp_state_reset(const dspfh_rsmp_coef* coef, dspfh_rsmp_state* state) noexcept { return zf::rsmp_state_reset<float>(coef, state); }
+ZF_API int ZF_CALL dsph_rsmp (const dsp_vector*  in, dsp_vector*  out, dsp_vector*  scratch, const dsph_rsmp_coef*  coef, dsph_rsmp_state*  state) noexcept { return zf::hrsmp<double>(in, out, scratch, coef, state); }
+ZF_API int ZF_CALL dspfh_rsmp(const dspf_vector* in, dspf_vector* out, dspf_vector* scratch, const dspfh_rsmp_coef* coef, dspfh_rsmp_state* state) noexcept { return zf::hrsmp<float>(in, out, scratch, coef, state); }
+
 }  // extern "C"

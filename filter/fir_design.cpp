@@ -7,6 +7,7 @@
 #include "core/libm.hpp"
 #include "elementwise/convert.hpp"
 #include "filter/fir.hpp"
+#include "window/window.hpp"
 
 namespace zf {
 namespace {
@@ -154,6 +155,18 @@ template <class T> void sinh_kernel(T* h, Pairs p, T beta) {
     unit_sum<T>(h, n);
 }
 
+// The Gaussian window (peak 1, symmetric, centred) whose response has half
+// its power at f, as taps of unit sum.
+template <class T> int gauss(Vec<T>* v, T f) {
+    const int n = v->points;
+    if (n < 1) return 0;
+    for (int k = 0; k < n; ++k) v->data[k] = T(1);
+    const T sigma = std::sqrt(std::log(T(2))) / (T(n) * Traits<T>::two_pi * f);
+    if (window_gauss<T>(v, sigma, win_peak | win_symmetric | win_no_rotate) != 0) return -1;
+    unit_sum<T>(v->data, n);
+    return 0;
+}
+
 // Kinds 0-10 into h (n taps); -1 for an unknown kind or an even n where the
 // kind needs a centre tap.
 template <class T> int design(T* h, int n, int kind, T f1, T f2) {
@@ -183,7 +196,7 @@ template <class T> int design(T* h, int n, int kind, T f1, T f2) {
             return x == T(0) ? T(0) : (libm::cos(x) - libm::sin(x) / x) / x * w * two_f;
         });
         return 0;
-    case DSP_FIR_GAUSS: return -1;
+    case DSP_FIR_GAUSS: return -1;   // designed on the record (gauss)
     case DSP_FIR_HILBERT:
         antisymmetric<T>(h, p, [&](T t) {
             const T x = w * t;
@@ -227,7 +240,8 @@ template <class T> int finish(Vec<T>* v, bool was_complex) { return was_complex 
 template <class T> int fir(Vec<T>* v, int kind, T f1, T f2) noexcept {
     bool was_complex = false;
     if (start<T>(v, was_complex) != 0) return -1;
-    if (design<T>(v->data, v->points, kind, f1, f2) != 0) return -1;
+    const int r = kind == DSP_FIR_GAUSS ? gauss<T>(v, f1) : design<T>(v->data, v->points, kind, f1, f2);
+    if (r != 0) return -1;
     return finish<T>(v, was_complex);
 }
 

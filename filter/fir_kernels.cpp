@@ -1,5 +1,6 @@
 // The direct-sum kernel on a real response: the portable version, which is
 // the reference, and the one choice between it and the vectorised versions.
+#include "core/cpu.hpp"
 #include "filter/fir.hpp"
 
 namespace zf {
@@ -22,10 +23,8 @@ template <class T> void conv_portable(const T* x, const T* g, int m, int s, T* y
 
 namespace {
 template <class T> ConvFn<T> choose() noexcept {
-#if defined(__x86_64__) || defined(__i386__)
-    if (__builtin_cpu_supports("avx512f")) return static_cast<ConvFn<T>>(&conv_avx512);
-    if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma")) return static_cast<ConvFn<T>>(&conv_avx2);
-#endif
+    if (cpu_has_avx512()) return static_cast<ConvFn<T>>(&conv_avx512);
+    if (cpu_has_avx2_fma()) return static_cast<ConvFn<T>>(&conv_avx2);
     return &conv_portable<T>;
 }
 }  // namespace

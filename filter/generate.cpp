@@ -14,19 +14,18 @@ namespace {
 // The recurrence runs at most this many rotations from an exact seed.
 constexpr int kSeedBlock = 256;
 
-// Cosine and sine of an angle formed in double, so that the seeds of the
-// single twin are exact to its own precision.
-inline double seed_cos(double a) noexcept { return libm::cos(a); }
-inline double seed_sin(double a) noexcept { return libm::sin(a); }
-
 // Calls put(n, cos, sin) for the angle w n + phase, n = 0 .. count-1. Each
-// block of kSeedBlock samples starts from an exact seed and is advanced by
-// rotation through w.
+// block of kSeedBlock samples starts from the library's cosine and sine of its
+// first angle, formed in double (so the single twin's seeds are exact to its
+// own precision), and is advanced by rotation through w.
 template <class T, class Put> void rotate(int count, double w, double phase, Put put) noexcept {
-    const T c = static_cast<T>(seed_cos(w)), s = static_cast<T>(seed_sin(w));
+    double cw, sw;
+    libm::sincos(w, &sw, &cw);
+    const T c = static_cast<T>(cw), s = static_cast<T>(sw);
     for (int m = 0; m < count; m += kSeedBlock) {
-        const double a = m * w + phase;
-        T x = static_cast<T>(seed_cos(a)), y = static_cast<T>(seed_sin(a));
+        double ca, sa;
+        libm::sincos(m * w + phase, &sa, &ca);
+        T x = static_cast<T>(ca), y = static_cast<T>(sa);
         const int end = std::min(count, m + kSeedBlock);
         for (int n = m; n < end; ++n) {
             put(n, x, y);
@@ -99,8 +98,10 @@ template <class T> void complex_noise(T* d, int n, int kind) noexcept {
             const double u = std::max(random_uniform(), static_cast<double>(Traits<T>::tiny));
             const double r = std::sqrt(-2.0 * std::log(u));
             const double t = 6.283185307179586 * random_uniform();
-            x = r * libm::cos(t);
-            y = r * libm::sin(t);
+            double c, s;
+            libm::sincos(t, &s, &c);
+            x = r * c;
+            y = r * s;
         }
         d[2 * k] = static_cast<T>(x);
         d[2 * k + 1] = static_cast<T>(y);

@@ -3,6 +3,8 @@
 // the K samples where the next kernel window starts and that position.
 #include "filter/resample.hpp"
 
+#include "filter/fir.hpp"
+
 #include <cstdint>
 #include <cstring>
 
@@ -37,6 +39,27 @@ template <class T> void table_position(T mu, int q, int& a, T& f) noexcept {
     }
 }
 
+// Interpolated taps c[j] = t[j q] + f (t[j q + 1] - t[j q]) of one output,
+// from the table (stride q) or from rows laid out by table position (stride 1:
+// rows[a k + j] = t[a + j q]).
+template <class T> void taps(const T* t0, const T* t1, int stride, int k, T f, T* c) noexcept {
+    for (int j = 0; j < k; ++j) c[j] = t0[j * stride] + f * (t1[j * stride] - t0[j * stride]);
+}
+
+// Sum of s[j w] c[j], j < k, in four interleaved partial sums.
+template <class T> T dot(const T* s, int w, const T* c, int k) noexcept {
+    T a0 = T(0), a1 = T(0), a2 = T(0), a3 = T(0);
+    int j = 0;
+    for (; j + 4 <= k; j += 4) {
+        a0 += s[j * w] * c[j];
+        a1 += s[(j + 1) * w] * c[j + 1];
+        a2 += s[(j + 2) * w] * c[j + 2];
+        a3 += s[(j + 3) * w] * c[j + 3];
+    }
+    for (; j < k; ++j) a0 += s[j * w] * c[j];
+    return (a0 + a1) + (a2 + a3);
+}
+
 }  // namespace
 
 template <class T>
@@ -61,7 +84,7 @@ int rsmp(const Vec<T>* in, Vec<T>* out, int mode, const Vec<T>* kernel, T ratio,
     const T delta = in->delta;
     T mu = T(0);
     if (history) {
-        if (size_history<T>(history, *in, k + 2) != 0) return -1;
+        if (prepare_history<T>(history, *in, k + 2) != 0) return -1;
         mu = history->data[static_cast<std::size_t>(k) * w];
         if (!(mu > T(-1)) || !std::isfinite(mu)) return -1;
     }
@@ -90,6 +113,24 @@ int rsmp(const Vec<T>* in, Vec<T>* out, int mode, const Vec<T>* kernel, T ratio,
     const T* tab = kernel->data + 1;
     auto at = [&](std::int64_t i) { return i < 0 ? h + (i + k) * w : x + i * w; };
 
+    // Mode 1 interpolates K taps per output: one scratch row for them, and
+    // for long runs the table laid out by position so each output reads two
+    // adjacent rows instead of 2K entries Q apart.
+    Temp<T> work;
+    T* c = nullptr;
+    const T* rows = nullptr;
+    if (mode == 1) {
+        const bool laid = static_cast<std::int64_t>(cap) >= 4 * static_cast<std::int64_t>(q + 1);
+        work->points = k + (laid ? (q + 1) * k : 0);
+        if (alloc<T>(work.get()) != 0) return -1;
+        c = work->data;
+        if (laid) {
+            T* r = c + k;
+            for (int a = 0; a <= q; ++a)
+                for (int j = 0; j < k; ++j) r[a * k + j] = tab[a + j * q];
+            rows = r;
+        }
+    }
     std::int64_t i = -k;
     int produced = 0;
     for (;;) {
@@ -104,19 +145,11 @@ int rsmp(const Vec<T>* in, Vec<T>* out, int mode, const Vec<T>* kernel, T ratio,
             T acc = T(0);
             for (int j = 0; j < k; ++j) acc += s[j] * tab[static_cast<int>(static_cast<T>(q) * (static_cast<T>(j) - mu))];
             y[produced] = acc;
-        } else if (w == 1) {
-            T acc = T(0);
-            for (int j = 0; j < k; ++j) acc += s[j] * (t[j * q] + f * (t[j * q + 1] - t[j * q]));
-            y[produced] = acc;
         } else {
-            T re = T(0), im = T(0);
-            for (int j = 0; j < k; ++j) {
-                const T c = t[j * q] + f * (t[j * q + 1] - t[j * q]);
-                re += s[2 * j] * c;
-                im += s[2 * j + 1] * c;
-            }
-            y[2 * produced] = re;
-            y[2 * produced + 1] = im;
+            if (rows) taps<T>(rows + a * k, rows + (a + 1) * k, 1, k, f, c);
+            else taps<T>(t, t + 1, q, k, f, c);
+            y[produced * w] = dot<T>(s, w, c, k);
+            if (w == 2) y[produced * w + 1] = dot<T>(s + 1, w, c, k);
         }
         ++produced;
         mu += ratio;

@@ -5,9 +5,11 @@ The list (abi/exports.txt: one name a line, '#' comments) must equal
   - the functions declared with ZF_API in the public headers,
   - the functions defined in the exports.cpp files,
   - the dynamic symbols of a built shared library (--so), and
-  - the export table of a 32-bit Windows DLL (--dll): ZF_CALL functions under
-    their stdcall name 'name@N', N the bytes of their arguments, and ZF_CDECL
-    functions under their plain names.
+  - the export table of a Windows DLL (--dll): on 32-bit x86 ZF_CALL functions
+    under their stdcall name 'name@N', N the bytes of their arguments, and
+    ZF_CDECL functions under their plain names; on x86-64, which has one calling
+    convention, every function under its plain name. The DLL must also import
+    no mingw runtime DLL (libgcc, libstdc++, libwinpthread): those are linked in.
 Prints what differs and exits 1 when anything does.
 """
 import argparse
@@ -91,11 +93,18 @@ def main():
         out = subprocess.run([a.objdump, '-p', a.dll], capture_output=True, text=True, check=True).stdout
         table = out.split('[Ordinal/Name Pointer] Table', 1)
         syms = re.findall(r'^\s*\[\s*\d+\]\s+(\S+)\s*$', table[1], re.M) if len(table) > 1 else []
+        wide = re.search(r'file format pei-x86-64', out) is not None
         expected = []
         for n in names:
             conv, nbytes = funcs.get(n, ('ZF_CALL', -1))
-            expected.append(f'{n}@{nbytes}' if conv == 'ZF_CALL' else n)
+            expected.append(f'{n}@{nbytes}' if conv == 'ZF_CALL' and not wide else n)
         ok &= compare(f'{a.dll}', expected, syms)
+        imports = re.findall(r'^\s*DLL Name:\s*(\S+)', out, re.M)
+        for dll in imports:
+            if re.match(r'lib(gcc|stdc\+\+|winpthread)', dll, re.I):
+                print(f'{a.dll}: depends on the mingw runtime DLL {dll}')
+                ok = False
+        print(f'{a.dll} imports: {", ".join(imports)}')
     print(f'{len(names)} exports checked: ' + ('all agree' if ok else 'MISMATCH'))
     return 0 if ok else 1
 

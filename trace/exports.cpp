@@ -40,4 +40,7 @@ ZF_API int ZF_CDECL vfps_Smooth(const float*  s, float*  d, int total, int start
 ZF_API int ZF_CDECL vfpd_SmoothCpx(const double* s, double* d, int total, int start, int stop, int ap) noexcept { return smooth_cpx<double>(s, d, total, start, stop, ap); }
 ZF_API int ZF_CDECL vfps_SmoothCpx(const float*  s, float*  d, int total, int start, int stop, int ap) noexcept { return smooth_cpx<float>(s, d, total, start, stop, ap); }
 
+ZF_API int ZF_CDECL vfpd_CircleFit(const double* z, int start, int stop, double* centre, double* radius, double* residual) noexcept { return circle_fit<double>(z, start, stop, centre, radius, residual); }
+ZF_API int ZF_CDECL vfps_CircleFit(const float*  z, int start, int stop, float*  centre, float*  radius, float*  residual) noexcept { return circle_fit<float>(z, start, stop, centre, radius, residual); }
+
 }  // extern "C"

@@ -103,4 +103,13 @@ template <class T> int smooth(const T* src, T* dst, int total, int start, int st
 // Results as smooth.
 template <class T> int smooth_cpx(const T* src, T* dst, int total, int start, int stop, int aperture) noexcept;
 
+// Circle fit -----------------------------------------------------------------
+
+// Centre (two values), radius and RMS geometric residual (may be null) of the
+// circle best fitting the complex points [start, stop): an algebraic fit
+// refined by geometric least squares. Returns the number of points fitted, or
+// -1 with nothing written for a null array, a bad range, fewer than three
+// points, or points on a straight line.
+template <class T> int circle_fit(const T* trace, int start, int stop, T* centre, T* radius, T* residual) noexcept;
+
 }  // namespace zf

@@ -39,6 +39,11 @@ ZF_API int ZF_CALL dspfi_analytic(dspf_vector* v) noexcept { return zf::analytic
 
 
 // ---- handle-based spectra, averaging and correlation
+ZF_API int ZF_CALL dsph_fft (const dsp_vector*  in, dsp_vector*  out, int points, double fraction, int kind, int flags) noexcept { return zf::fft<double>(in, out, points, fraction, kind, flags); }
+ZF_API int ZF_CALL dspfh_fft(const dspf_vector* in, dspf_vector* out, int points, float  fraction, int kind, int flags) noexcept { return zf::fft<float>(in, out, points, fraction, kind, flags); }
+ZF_API int ZF_CALL dsph_dft (const dsp_vector*  in, dsp_vector*  out, int kind, int flags) noexcept { return zf::dft<double>(in, out, kind, flags); }
+ZF_API int ZF_CALL dspfh_dft(const dspf_vector* in, dspf_vector* out, int kind, int flags) noexcept { return zf::dft<float>(in, out, kind, flags); }
+ZF_API int ZF_CDECL cf_dsph_fft(const double* in, double* out, int points, int complex, double fraction, int kind, int flags) noexcept { return zf::cf_fft(in, out, points, complex, fraction, kind, flags); }
 ZF_API int ZF_CALL dsph_avg (const dsp_vector*  in, dsp_vector*  acc, dsp_vector*  scratch, int flags, int count, int n, double weight, double limit) noexcept { return zf::avg<double>(in, acc, scratch, flags, count, n, weight, limit); }
 ZF_API int ZF_CALL dspfh_avg(const dspf_vector* in, dspf_vector* acc, dspf_vector* scratch, int flags, int count, int n, float  weight, float  limit) noexcept { return zf::avg<float>(in, acc, scratch, flags, count, n, weight, limit); }
 ZF_API int ZF_CALL dsph_corr (const dsp_vector*  a, const dsp_vector*  b, dsp_vector*  out, dsp_vector*  scratch, int length, int half) noexcept { return zf::corr<double>(a, b, out, scratch, length, half); }

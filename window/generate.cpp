@@ -11,8 +11,6 @@ namespace zf {
 namespace win {
 namespace {
 
-inline double wcos(double x) noexcept { return libm::cos(x); }
-inline double wsin(double x) noexcept { return libm::sin(x); }
 
 // Writes f(d) for every sample at distance d from the centre c = n/2: w[c] and
 // w[c -+ m] for m up to (n - 1)/2, and for even n the one sample w[0] at
@@ -44,7 +42,7 @@ template <class T> void cosine_sum(T* w, int n, const T* a, int terms, double de
         if (2 * m == n) return edge;
         theta = m % 1024 == 0 ? (m == 0 ? 0.0 : m * delta) : theta + delta;
         double s = 0;
-        for (int k = 0; k < terms; ++k) s += static_cast<double>(a[k]) * wcos(k * theta);
+        for (int k = 0; k < terms; ++k) s += static_cast<double>(a[k]) * libm::cos(k * theta);
         return s;
     });
 }
@@ -154,7 +152,7 @@ template <class T> int shape_window(Vec<T>* v, int n, Shape shape, double p1, do
         const double span = p1, power = p2;
         fill(w, n, sym, [&](double d) {
             const double x = d * 2 * span / len;
-            const double s = x == 0 ? 1.0 : wsin(x) / x;
+            const double s = x == 0 ? 1.0 : libm::sin(x) / x;
             if (power == 1) return s;
             if (power == 2) return s * s;
             if (power == 0 || x == 0) return 1.0;
@@ -167,7 +165,7 @@ template <class T> int shape_window(Vec<T>* v, int n, Shape shape, double p1, do
         fill(w, n, sym, [&](double d) {
             if (d <= m0) return 1.0;
             if (2 * d == len) return 0.0;
-            return 0.5 + 0.5 * wcos((d - m0) * step);
+            return 0.5 + 0.5 * libm::cos((d - m0) * step);
         });
         break;
     }

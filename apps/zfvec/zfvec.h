@@ -50,5 +50,8 @@ int cmd_convert(int argc, char **argv);
 int cmd_example(int argc, char **argv);
 int cmd_plot(int argc, char **argv);
 int cmd_generate(int argc, char **argv);
+int cmd_spectrum(int argc, char **argv);
+int cmd_filter(int argc, char **argv);
+int cmd_resample(int argc, char **argv);
 
 #endif

@@ -1,11 +1,16 @@
-# One check of the zfvec tool, run as: cmake -DZFVEC=<tool> -DCASE=<name> -DWORK=<dir> -P zfvec_check.cmake
+# One check of the zfvec tool, run as: cmake -DZFVEC=<tool> -DCASE=<name>
+# -DWORK=<dir> [-DEMULATOR=<program|arguments>] -P zfvec_check.cmake
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
+string(REPLACE "|" ";" EMULATOR "${EMULATOR}")
 
-# Runs zfvec with the arguments; sets rc, out and err in the caller.
+# Runs zfvec with the arguments; sets rc, out and err in the caller (text
+# written on Windows ends its lines with CR LF: compared as LF).
 macro(zfvec)
-  execute_process(COMMAND ${ZFVEC} ${ARGN} WORKING_DIRECTORY ${WORK}
+  execute_process(COMMAND ${EMULATOR} ${ZFVEC} ${ARGN} WORKING_DIRECTORY ${WORK}
     RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  string(REPLACE "\r\n" "\n" out "${out}")
+  string(REPLACE "\r\n" "\n" err "${err}")
 endmacro()
 
 # The call fails with a non-zero status and exactly one line on standard
@@ -122,13 +127,75 @@ elseif(CASE STREQUAL "convert")
     message(FATAL_ERROR "unexpected info:\n${out}")
   endif()
   # standard input to standard output
-  execute_process(COMMAND ${ZFVEC} convert - - WORKING_DIRECTORY ${WORK}
+  execute_process(COMMAND ${EMULATOR} ${ZFVEC} convert - - WORKING_DIRECTORY ${WORK}
     INPUT_FILE ${WORK}/copy.vec OUTPUT_FILE ${WORK}/piped.vec RESULT_VARIABLE rc)
   if(NOT rc EQUAL 0)
     message(FATAL_ERROR "convert - - failed: ${rc}")
   endif()
   expect_same_files(copy.vec piped.vec)
   expect_failure_line("same file" convert example.vec example.vec)
+elseif(CASE STREQUAL "spectrum")
+  # A bin-centred tone of amplitude 0.5 and an off-bin one of 0.01 read their
+  # amplitudes through the flat-top window, at their frequencies.
+  expect_success(generate --points 4096 --rate 1000 --tone 125:0.5 --tone 300.2:0.01:1 --records 4 tones.vec)
+  expect_success(spectrum --peaks 2 tones.vec spectrum.vec)
+  string(REGEX MATCHALL "\n +[-0-9.]+ +[-0-9.]+" rows "${out}")
+  list(LENGTH rows count)
+  if(NOT count EQUAL 2)
+    message(FATAL_ERROR "expected two peaks:\n${out}")
+  endif()
+  foreach(row f0 f1 db0 db1 IN ZIP_LISTS rows "124.75;299.95" "125.25;300.45" "-6.04;-40.03" "-6.00;-39.97")
+    string(REGEX MATCH "([-0-9.]+) +([-0-9.]+)" _ "${row}")
+    if(CMAKE_MATCH_1 LESS f0 OR CMAKE_MATCH_1 GREATER f1 OR CMAKE_MATCH_2 LESS db0 OR CMAKE_MATCH_2 GREATER db1)
+      message(FATAL_ERROR "peak ${row} outside ${f0} .. ${f1} Hz, ${db0} .. ${db1} dB:\n${out}")
+    endif()
+  endforeach()
+  # Low-pass filtering keeps the 125 Hz tone and removes the 300 Hz one; resampling
+  # to 800 Hz keeps both where they were.
+  expect_success(filter --lowpass 200 --taps 101 tones.vec low.vec)
+  expect_success(spectrum --peaks 2 low.vec lowspec.vec)
+  if(NOT out MATCHES "\n +125\\.[0-9]+ +-6\\.0[0-4]\n +[0-9.]+ +-([89][0-9]|1[0-9][0-9])\\.")
+    message(FATAL_ERROR "low-pass: expected 125 Hz at -6.02 dB and nothing above -80 dB:\n${out}")
+  endif()
+  expect_success(resample --rate 800 tones.vec slow.vec)
+  expect_success(spectrum --peaks 2 slow.vec slowspec.vec)
+  if(NOT out MATCHES "\n +12[45]\\.[0-9]+ +-6\\.0[0-4]\n +30[01]\\.[0-9]+ +-(39\\.9|40\\.0)")
+    message(FATAL_ERROR "resampled: expected 125 Hz at -6.02 dB and 300.2 Hz at -40 dB:\n${out}")
+  endif()
+  # 2049 bins fold to two vertices per pixel column; 100 samples keep one each.
+  expect_success(plot spectrum.vec --freq -o spectrum.svg)
+  expect_success(generate --points 100 --tone 0.01:1 short.vec)
+  expect_success(plot short.vec)
+  foreach(pair "spectrum.svg;1704" "short.svg;100")
+    list(GET pair 0 name)
+    list(GET pair 1 want)
+    file(READ ${WORK}/${name} svg)
+    string(REGEX MATCH " d=\"M[^\"]*\"" path "${svg}")
+    string(REGEX MATCHALL " L" segments "${path}")
+    list(LENGTH segments n)
+    math(EXPR n "${n} + 1")
+    if(NOT n EQUAL want)
+      message(FATAL_ERROR "${name}: ${n} path vertices, expected ${want}")
+    endif()
+  endforeach()
+  file(READ ${WORK}/spectrum.svg svg)
+  if(NOT svg MATCHES "^<\\?xml" OR NOT svg MATCHES "</svg>\n$" OR NOT svg MATCHES "frequency \\(Hz\\)")
+    message(FATAL_ERROR "spectrum.svg is not a complete plot")
+  endif()
+elseif(CASE STREQUAL "errors")
+  expect_failure_line("unknown window 'Bogus'" spectrum --window Bogus a.vec b.vec)
+  expect_failure_line("not a whole number: '12x'" generate --points 12x a.vec)
+  expect_failure_line("unknown kind 'pink'" generate --noise pink:1 a.vec)
+  expect_failure_line("missing.vec" spectrum missing.vec b.vec)
+  expect_failure_line("missing.vec" plot missing.vec)
+  expect_failure_line("not a number: 'abc'" resample --ratio abc a.vec b.vec)
+  expect_usage_error(filter a.vec b.vec)
+  expect_usage_error(plot)
+  expect_usage_error(spectrum a.vec)
+  zfvec(spectrum --help)
+  if(NOT rc EQUAL 0 OR NOT out MATCHES "^usage: zfvec spectrum")
+    message(FATAL_ERROR "spectrum --help: ${rc}\n${out}")
+  endif()
 else()
   message(FATAL_ERROR "unknown case ${CASE}")
 endif()

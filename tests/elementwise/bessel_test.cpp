@@ -10,6 +10,9 @@ template <class T> class SpecialTest : public ::testing::Test {};
 TYPED_TEST_SUITE(SpecialTest, Precisions);
 
 TYPED_TEST(SpecialTest, MatchesReferenceOnRandomVectors) {
+#if defined(_WIN32)
+    GTEST_SKIP() << "the Windows C runtime has no long-double j0l, j1l, y0l, y1l to serve as reference";
+#else
     using T = TypeParam;
     const double i0_range = sizeof(T) == 4 ? 30 : 200;
     check_all<T>({
@@ -19,6 +22,7 @@ TYPED_TEST(SpecialTest, MatchesReferenceOnRandomVectors) {
         real_only<T>("besy1", api::besy1, [](LD x) { return x > 0 ? y1l(x) : 0; }, -5, 30, 64),
         real_only<T>("besi0", api::besi0, ref::besi0<T>, -i0_range, i0_range, 16),
     });
+#endif
 }
 
 TYPED_TEST(SpecialTest, GuardsAndZeroArguments) {

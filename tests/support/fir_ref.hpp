@@ -9,6 +9,7 @@
 namespace ref {
 
 using cl = std::complex<long double>;
+constexpr long double pi_fir = 3.141592653589793238462643383279502884L;
 
 // Samples of a record's scalars (pairs when complex).
 template <class T> std::vector<cl> samples(const std::vector<T>& s, bool complex) {
@@ -33,18 +34,18 @@ inline std::vector<cl> convolve(const std::vector<cl>& x, const std::vector<cl>&
 // H(f) = sum h[k] e^(-j 2 pi f k).
 template <class T> cl response(const std::vector<T>& h, long double f) {
     cl s = 0;
-    for (std::size_t k = 0; k < h.size(); ++k) s += static_cast<long double>(h[k]) * std::polar(1.0L, -2 * 3.141592653589793238L * f * k);
+    for (std::size_t k = 0; k < h.size(); ++k) s += static_cast<long double>(h[k]) * std::polar(1.0L, -2 * pi_fir * f * k);
     return s;
 }
 
 // Four sections y[n] = (x[n] + 2x[n-1] + 2x[n-2] + x[n-3])/4 - y[n-2]/2, from rest.
 inline std::vector<cl> hardware(std::vector<cl> x) {
+    auto at = [](const std::vector<cl>& v, long i) { return i >= 0 ? v[i] : cl(0); };
     for (int s = 0; s < 4; ++s) {
         std::vector<cl> y(x.size());
-        auto at = [](const std::vector<cl>& v, long i) { return i >= 0 ? v[i] : cl(0); };
         for (long n = 0; n < static_cast<long>(x.size()); ++n)
             y[n] = (at(x, n) + 2.0L * at(x, n - 1) + 2.0L * at(x, n - 2) + at(x, n - 3)) / 4.0L - at(y, n - 2) / 2.0L;
-        x = y;
+        x.swap(y);
     }
     return x;
 }

@@ -1,0 +1,111 @@
+// Shared pieces of the fuzz harnesses: the vector-file entry points of both
+// precisions under one name, memory streams, and the round trip every vector
+// the reader returns must survive.
+#pragma once
+
+#include "core/files.hpp"
+
+#include <cfloat>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <type_traits>
+
+namespace fz {
+
+// The reader and writer templates of the core under one name per precision
+// (the harnesses link the core sources alone, without the C entry points).
+template <class V> using Real = std::remove_pointer_t<decltype(V::data)>;
+template <class V> int init(V* v) { return zf::init<Real<V>>(v); }
+template <class V> int destroy(V* v) { return zf::destroy<Real<V>>(v); }
+template <class V> int read(V* v, FILE* f) { return zf::fread<Real<V>>(v, f); }
+template <class V> int write2(const V* v, FILE* f, int flags) { return zf::fwrite2<Real<V>>(v, f, flags); }
+
+// Stops the run with a message: libFuzzer records the input that got here.
+[[noreturn]] inline void fail(const char* what) {
+    std::fprintf(stderr, "fuzz check failed: %s\n", what);
+    std::abort();
+}
+
+// A read-only stream over bytes (fmemopen refuses an empty buffer).
+inline FILE* open_bytes(const void* data, std::size_t size) {
+    return size ? fmemopen(const_cast<void*>(data), size, "rb") : std::tmpfile();
+}
+
+// What the writer of this precision makes of v in the given form.
+template <class V> std::string written(const V& v, int flags) {
+    char* buf = nullptr;
+    std::size_t len = 0;
+    FILE* f = open_memstream(&buf, &len);
+    if (!f) fail("open_memstream");
+    if (write2(&v, f, flags) != 0) fail("writing a vector the reader returned");
+    std::fclose(f);
+    std::string s(buf, len);
+    std::free(buf);
+    return s;
+}
+
+// Reads the first vector of bytes into out: the reader's status.
+template <class V> int read_back(const std::string& bytes, V& out) {
+    FILE* f = open_bytes(bytes.data(), bytes.size());
+    const int r = read(&out, f);
+    std::fclose(f);
+    return r;
+}
+
+// Same shape, and scalars equal: bit for bit when exact, else within the
+// digits the ASCII form keeps (a NaN reads back as a NaN, an infinity as itself).
+template <class V> bool same(const V& a, const V& b, bool exact) {
+    if (a.points != b.points || (a.complex != 0) != (b.complex != 0)) return false;
+    const double rel = sizeof(*a.data) == 8 ? 1e-15 : 1e-6;
+    const double tiny = sizeof(*a.data) == 8 ? 2.3e-308 : 1.2e-38;
+    const double top = sizeof(*a.data) == 8 ? DBL_MAX : FLT_MAX;
+    auto eq = [&](double x, double y) {
+        if (std::isnan(x) || std::isnan(y)) return std::isnan(x) && std::isnan(y);
+        if (x == y) return true;  // infinities included
+        // Sixteen digits of a value within one part in 1e16 of the largest
+        // double print above it, and that text reads as an infinity.
+        if (std::isinf(y) && std::fabs(x) > top / (1 + rel)) return (x > 0) == (y > 0);
+        return std::fabs(x - y) <= rel * std::fabs(x) + tiny;
+    };
+    const std::size_t n = static_cast<std::size_t>(a.points) * (a.complex ? 2 : 1);
+    if (exact)
+        return std::memcmp(&a.delta, &b.delta, sizeof a.delta) == 0 &&
+               (n == 0 || std::memcmp(a.data, b.data, n * sizeof *a.data) == 0);
+    if (!eq(a.delta, b.delta)) return false;
+    for (std::size_t k = 0; k < n; ++k)
+        if (!eq(a.data[k], b.data[k])) return false;
+    return true;
+}
+
+// Writes v in the binary and in the ASCII form and reads each back: the binary
+// copy must be identical, the ASCII copy equal to its printed digits.
+template <class V> void round_trip(const V& v) {
+    V back;
+    init(&back);
+    if (read_back(written(v, 0), back) != 1 || !same(v, back, true)) fail("binary form does not read back equal");
+    if (read_back(written(v, 1), back) != 1 || !same(v, back, false)) fail("ASCII form does not read back equal");
+    destroy(&back);
+}
+
+// Reads vectors from bytes until the reader reports 0 or -1 (at most `limit`),
+// sending each one it returned, whole or partial, through the round trip.
+template <class V> void read_all(const void* data, std::size_t size, int limit) {
+    FILE* f = open_bytes(data, size);
+    if (!f) return;
+    V v;
+    init(&v);
+    for (int k = 0; k < limit; ++k) {
+        const int r = read(&v, f);
+        if (r != 1 && r != 0 && r != -1) fail("reader status outside 1, 0, -1");
+        if (r == 0 && v.points != 0) fail("a clean end of stream left samples");
+        if (r != 0) round_trip(v);
+        if (r != 1) break;
+    }
+    destroy(&v);
+    std::fclose(f);
+}
+
+}  // namespace fz
