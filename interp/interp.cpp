@@ -1,8 +1,9 @@
 // Evaluation at new abscissae: previous-knot hold, linear, quadratic and
 // cubic-spline interpolation, with clamping or extrapolation at the ends.
-// Every abscissa is evaluated on its own interval, found by a galloping search
-// from the previous one: ascending abscissae cost O(n + m), any order
-// O(m log n), and the result never depends on the order.
+// The abscissae are walked in order with an interval index that only moves
+// forward, so m abscissae cost O(n + m) in any order; a smaller abscissa after
+// a larger one keeps the interval reached so far (abscissae are meant to
+// ascend), and a stop at the clamped end fills every remaining output.
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -47,48 +48,48 @@ void evaluate(const T* x, const T* y, const T* s, int n, const T* xi, T* o, int 
         for (; k < m; ++k) o[k] = y[j];
         return;
     }
-    int j = 1;
+    // The walk starts on the interval of the first remaining abscissa.
+    int j = k < m && !std::isnan(xi[k]) ? locate(x, n, xi[k], 1) : 1;
     for (; k < m; ++k) {
         const T v = xi[k];
         if (std::isnan(v)) {
             o[k] = std::numeric_limits<T>::quiet_NaN();
             continue;
         }
-        if (clamp && v < x[0]) {
-            o[k] = y[0];
-            continue;
-        }
-        j = locate(x, n, v, j);
+        while (j < n - 1 && x[j] <= v) ++j;
         const bool past = x[j] <= v;   // at or beyond the last knot
+        T fill;                        // the value of every remaining output after a stop
         switch (mode) {
         case kInterpHold:
-            o[k] = past ? y[n - 1] : y[j - 1];
-            break;
+            if (past) { fill = y[j]; break; }
+            o[k] = y[j - 1];
+            continue;
         case kInterpLinear: {
-            if (past && clamp) { o[k] = y[n - 1]; break; }
+            if (past && clamp) { fill = y[j]; break; }
             const A a = A(x[j - 1]), b = A(x[j]), t = A(v);
             o[k] = static_cast<T>((A(y[j]) * (t - a) + A(y[j - 1]) * (b - t)) / (b - a));
-            break;
+            continue;
         }
         case kInterpQuadratic: {
             // Centre: the knot nearest v (a tie goes to the lower), within 1 .. n-2.
             int c = A(v) - A(x[j - 1]) <= A(x[j]) - A(v) ? j - 1 : j;
             c = c < 1 ? 1 : (c > n - 2 ? n - 2 : c);
-            if (clamp && x[c + 1] <= v) { o[k] = y[c + 1]; break; }
+            if (clamp && x[c + 1] <= v) { fill = y[c + 1]; break; }
             const A h1 = A(x[c]) - A(x[c - 1]), h2 = A(x[c + 1]) - A(x[c]), t = A(v) - A(x[c]);
             const A num = A(y[c - 1]) * h2 * t * (t - h2) - A(y[c]) * (h1 + h2) * (t + h1) * (t - h2) +
                           A(y[c + 1]) * h1 * (t + h1) * t;
             o[k] = static_cast<T>(num / (h1 * h2 * (h1 + h2)));
-            break;
+            continue;
         }
         default: {   // cubic spline
-            if (past && clamp) { o[k] = y[n - 1]; break; }
+            if (past && clamp) { fill = y[j]; break; }
             const A h = A(x[j]) - A(x[j - 1]), a = A(x[j]) - A(v), b = A(v) - A(x[j - 1]);
             o[k] = static_cast<T>((A(y[j]) * b + A(y[j - 1]) * a) / h +
                                   ((b * b / h - h) * b * A(s[j]) + (a * a / h - h) * a * A(s[j - 1])) / A(6));
-            break;
+            continue;
         }
         }
+        for (; k < m; ++k) o[k] = fill;
     }
 }
 

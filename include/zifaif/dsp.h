@@ -925,9 +925,12 @@ ZF_API int ZF_CALL dspfi_addcos(dspf_vector *v, int flags, float  amp, float  fr
  * not clamped on the left on, every output is y[j] for the first knot x[j]
  * (j >= 1, at most n-1) right of that abscissa. flags & 16 clamps: y[0] left
  * of x[0] and y[n-1] at and beyond x[n-1]; otherwise the end pieces are
- * extended. Every abscissa is evaluated on its own interval whatever the order
- * of xi (O(n + m) for ascending xi, O(m log n) otherwise); a NaN abscissa
- * gives NaN. n = 0 gives zeros; n = 1 gives y[0], in mode 5
+ * extended. xi is walked in order with an interval that only moves forward
+ * (O(n + m) in any order): xi is meant to ascend, a smaller abscissa after a
+ * larger one keeps the interval reached so far (clamping on the left holds
+ * only for the leading abscissae), and once an abscissa stops at the clamped
+ * right end (or beyond the last knot in mode 0) every remaining output takes
+ * that end's value; a NaN abscissa gives NaN. n = 0 gives zeros; n = 1 gives y[0], in mode 5
  * y[0] + y2[0] (xi - x[0])^2 / 2. 0 or -1. */
 ZF_API int ZF_CALL dsp_interp (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out, int flags);
 ZF_API int ZF_CALL dspf_interp(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out, int flags);

