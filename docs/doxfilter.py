@@ -5,8 +5,11 @@
   of that title, closed at the next banner or before the closing extern "C"
   block. A comment after the banner that is followed by a blank line or by
   another comment (so documents no declaration) becomes the group's text.
-- A documentation comment before a run of prototypes documents each of them:
-  the double and the float twin, or the two routines of a pair.
+- A documentation comment before a run of prototypes documents the first and
+  those of the rest that are its twins (dspfi_abs of dspi_abs), that extend its
+  name (invertDbl of invert) or that the comment names; any other prototype of
+  the run stays undocumented, so that a missing comment is found. A plain
+  comment there is taken as one (docs/check_docs.py lists those).
 """
 import re
 import sys
@@ -18,6 +21,17 @@ NAME = re.compile(r'\b(?:ZF_CALL|ZF_CDECL)\s+(\w+)\s*\(')
 
 def slug(title):
     return re.sub(r'[^a-z0-9]+', '_', title.lower()).strip('_')
+
+
+def twin(name):
+    """The name shared by the double and the float twin: dspfi_abs and dspi_abs,
+    dspff_fread and dspf_fread, vfps_FindMax and vfpd_FindMax."""
+    head, sep, rest = name.partition('_')
+    if head.startswith('dsp'):
+        head = 'dsp' + head[3:].replace('f', '')
+    elif head.startswith('vfps'):
+        head = 'vfpd' + head[4:]
+    return head + sep + rest
 
 
 def comment_end(lines, i):
@@ -58,9 +72,11 @@ def filter_header(lines):
                     j = end + 1
             i = j
             continue
-        if lines[i].startswith('/**'):
+        if lines[i].startswith('/*'):
             end = comment_end(lines, i)
             j = end + 1
+            if j < n and lines[j].startswith('ZF_API') and not lines[i].startswith('/**'):
+                out[i] = '/**' + lines[i][2:]  # a plain contract comment still documents
             first = None
             while j < n and lines[j].startswith('ZF_API'):
                 k = j
@@ -68,9 +84,11 @@ def filter_header(lines):
                     k += 1
                 m = NAME.search(''.join(lines[j:k + 1]))
                 if m and first is None:
-                    first = m.group(1)
-                elif m:
+                    first, covered, text = m.group(1), {twin(m.group(1))}, ''.join(lines[i:end + 1])
+                elif m and (twin(m.group(1)) in covered or m.group(1).startswith(first)
+                            or re.search(rf'\b{m.group(1)}\b', text)):
                     out[j] = f'/** @copydoc {first} */ ' + lines[j]
+                    covered.add(twin(m.group(1)))
                 j = k + 1
             i = max(j, end + 1)
             continue

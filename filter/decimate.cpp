@@ -1,25 +1,11 @@
-// Plain decimation with a carried phase, and the preparation of history
-// vectors shared by the resampling stages.
+// Plain decimation with a carried phase.
 #include "filter/resample.hpp"
 
-#include "elementwise/convert.hpp"
-#include "elementwise/rearrange.hpp"
+#include "filter/fir.hpp"
 
 #include <cstdint>
 
 namespace zf {
-
-template <class T> int size_history(Vec<T>* h, const Vec<T>& in, int n) noexcept {
-    if (!readable<T>(h)) return -1;
-    h->delta = in.delta;
-    if ((h->complex != 0) != (in.complex != 0)) {
-        if ((in.complex ? rtoc<T>(h) : real<T>(h)) != 0) return -1;
-    }
-    if (n < 0) n = 0;
-    if (h->points < n) return zpad<T>(h, n);
-    h->points = n;
-    return 0;
-}
 
 template <class T> int deci(const Vec<T>* in, Vec<T>* out, int factor, Vec<T>* phase) noexcept {
     if (!readable<T>(in) || !writable<T>(out)) return -1;
@@ -28,7 +14,7 @@ template <class T> int deci(const Vec<T>* in, Vec<T>* out, int factor, Vec<T>* p
     const std::int64_t n = in->points;
     std::int64_t p = 0;
     if (phase) {
-        if (size_history<T>(phase, *in, 1) != 0) return -1;
+        if (prepare_history<T>(phase, *in, 1) != 0) return -1;
         p = round_half_up<T>(phase->data[0]);
         if (p < 0) p = 0;
     }
@@ -58,9 +44,7 @@ template <class T> int deci(const Vec<T>* in, Vec<T>* out, int factor, Vec<T>* p
     return 0;
 }
 
-template int size_history<double>(Vec<double>*, const Vec<double>&, int) noexcept;
 template int deci<double>(const Vec<double>*, Vec<double>*, int, Vec<double>*) noexcept;
-template int size_history<float>(Vec<float>*, const Vec<float>&, int) noexcept;
 template int deci<float>(const Vec<float>*, Vec<float>*, int, Vec<float>*) noexcept;
 
 }  // namespace zf

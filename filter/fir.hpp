@@ -7,14 +7,16 @@
 // by block gives the output of one call on the whole signal.
 //
 // Decisions where the contract leaves room:
-// - FFT convolution runs overlap-save in blocks whose transform length follows
-//   from the tap count alone, and the coefficient-transform cache is keyed on
-//   the coefficient values and that length, so a streamed signal gives the
-//   whole-signal output (up to rounding) whatever the block sizes.
+// - FFT convolution runs overlap-save with a transform length of about eight
+//   times the taps (less for a short block), and the coefficient-transform
+//   cache is keyed on the coefficient values and that length: a changed length
+//   recomputes the transform instead of reusing one of another length, so a
+//   streamed signal gives the whole-signal output (up to rounding) whatever
+//   the block sizes.
 // - The output may be the input record (built in the scratch vector, copied
-//   at the end); an input or output that shares storage with the history, or
-//   an output that shares it with the coefficients, is refused with -1 and
-//   nothing is changed.
+//   at the end); a history that shares storage with the input, the output or
+//   the coefficients, or an output that shares it with the coefficients, is
+//   refused with -1 and nothing is changed.
 // - sfir with odd and negate both set negates the mirrored taps only: the
 //   shared centre tap keeps its sign (half [1, 2] gives [1, 2, -1]).
 // - Fixed set 101 keeps the listed taps; expanded to 39 taps its gain is 1 to

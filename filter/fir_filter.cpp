@@ -94,7 +94,11 @@ template <class T> int fft_filter(const Signal<T>& x, const Vec<T>& h, T* y) noe
         b.complex = x.width == 2;
         if (alloc<T>(&b) != 0) return -1;
         x.gather(b.data, n0 - (m - 1), p);
-        x.prefetch(n0 + step, step);   // the next block's new samples load while this one transforms
+        // The next block's new samples and output lines load while this one transforms.
+        x.prefetch(n0 + step, step);
+        const int ahead = x.n - n0 - step < step ? x.n - n0 - step : step;
+        for (int k = 0; k < ahead * w; k += 64 / static_cast<int>(sizeof(T)))
+            __builtin_prefetch(y + static_cast<std::ptrdiff_t>(w) * (n0 + step) + k, 1);
         if (w == 1) {
             if (rfft<T>(&b) != 0) return -1;
             multiply<T>(b.data, hs, p / 2 + 1);

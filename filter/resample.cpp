@@ -3,6 +3,8 @@
 // the K samples where the next kernel window starts and that position.
 #include "filter/resample.hpp"
 
+#include "filter/fir.hpp"
+
 #include <cstdint>
 #include <cstring>
 
@@ -20,9 +22,10 @@ template <class T> void normalise(T& mu, std::int64_t& i) noexcept {
         i += static_cast<std::int64_t>(far);
         return;
     }
-    const T n = std::ceil(mu);
-    mu = (mu - (n - T(1))) - T(1);
-    i += static_cast<std::int64_t>(n);
+    std::int64_t n = static_cast<std::int64_t>(mu);  // the ceiling, without a library call
+    if (static_cast<T>(n) < mu) ++n;
+    mu = (mu - static_cast<T>(n - 1)) - T(1);
+    i += n;
 }
 
 // Table entry index a (of the first tap) and interpolation fraction f for the
@@ -37,24 +40,28 @@ template <class T> void table_position(T mu, int q, int& a, T& f) noexcept {
     }
 }
 
-// Interpolated taps c[j] = t[j q] + f (t[j q + 1] - t[j q]) of one output,
-// from the table (stride q) or from rows laid out by table position (stride 1:
-// rows[a k + j] = t[a + j q]).
+// Interpolated taps c[j] = t0[j s] + f (t1[j s] - t0[j s]) of one output, from
+// the table (s = Q) or from rows laid out by table position (s = 1: rows[a k
+// + j] = t[a + j Q]); the unit stride is a separate case the compiler vectorises.
 template <class T> void taps(const T* t0, const T* t1, int stride, int k, T f, T* c) noexcept {
+    if (stride == 1) {
+        for (int j = 0; j < k; ++j) c[j] = t0[j] + f * (t1[j] - t0[j]);
+        return;
+    }
     for (int j = 0; j < k; ++j) c[j] = t0[j * stride] + f * (t1[j * stride] - t0[j * stride]);
 }
 
-// Sum of s[j w] c[j], j < k, in four interleaved partial sums.
-template <class T> T dot(const T* s, int w, const T* c, int k) noexcept {
+// Sum of s[j W] c[j], j < k, in four interleaved partial sums.
+template <class T, int W> T dot(const T* s, const T* c, int k) noexcept {
     T a0 = T(0), a1 = T(0), a2 = T(0), a3 = T(0);
     int j = 0;
     for (; j + 4 <= k; j += 4) {
-        a0 += s[j * w] * c[j];
-        a1 += s[(j + 1) * w] * c[j + 1];
-        a2 += s[(j + 2) * w] * c[j + 2];
-        a3 += s[(j + 3) * w] * c[j + 3];
+        a0 += s[j * W] * c[j];
+        a1 += s[(j + 1) * W] * c[j + 1];
+        a2 += s[(j + 2) * W] * c[j + 2];
+        a3 += s[(j + 3) * W] * c[j + 3];
     }
-    for (; j < k; ++j) a0 += s[j * w] * c[j];
+    for (; j < k; ++j) a0 += s[j * W] * c[j];
     return (a0 + a1) + (a2 + a3);
 }
 
@@ -82,7 +89,7 @@ int rsmp(const Vec<T>* in, Vec<T>* out, int mode, const Vec<T>* kernel, T ratio,
     const T delta = in->delta;
     T mu = T(0);
     if (history) {
-        if (size_history<T>(history, *in, k + 2) != 0) return -1;
+        if (prepare_history<T>(history, *in, k + 2) != 0) return -1;
         mu = history->data[static_cast<std::size_t>(k) * w];
         if (!(mu > T(-1)) || !std::isfinite(mu)) return -1;
     }
@@ -146,8 +153,12 @@ int rsmp(const Vec<T>* in, Vec<T>* out, int mode, const Vec<T>* kernel, T ratio,
         } else {
             if (rows) taps<T>(rows + a * k, rows + (a + 1) * k, 1, k, f, c);
             else taps<T>(t, t + 1, q, k, f, c);
-            y[produced * w] = dot<T>(s, w, c, k);
-            if (w == 2) y[produced * w + 1] = dot<T>(s + 1, w, c, k);
+            if (w == 1) {
+                y[produced] = dot<T, 1>(s, c, k);
+            } else {
+                y[2 * produced] = dot<T, 2>(s, c, k);
+                y[2 * produced + 1] = dot<T, 2>(s + 1, c, k);
+            }
         }
         ++produced;
         mu += ratio;

@@ -42,10 +42,6 @@ template <class T> inline int round_half_up(T x) noexcept {
     return static_cast<int>(v);
 }
 
-// Makes a history vector ready for an input: delta and kind of the input,
-// length n by zero padding or truncation at the end.
-template <class T> int size_history(Vec<T>* h, const Vec<T>& in, int n) noexcept;
-
 // Decimation (decimate.cpp).
 template <class T> int deci(const Vec<T>* in, Vec<T>* out, int factor, Vec<T>* phase) noexcept;
 

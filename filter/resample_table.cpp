@@ -3,6 +3,7 @@
 // header element holding the kernel length K in input samples.
 #include "filter/resample.hpp"
 
+#include "core/libm.hpp"
 #include "elementwise/convert.hpp"
 
 #include <cstring>
@@ -79,7 +80,7 @@ template <class T> int rsmp_cos(Vec<T>* kernel, const Vec<T>* series) noexcept {
         T sum = a[0], angle = T(0);
         for (int k = 1; k < n; ++k) {
             angle += theta;
-            sum += a[k] * std::cos(angle);
+            sum += a[k] * libm::cos(angle);
         }
         return sum;
     });
@@ -87,7 +88,7 @@ template <class T> int rsmp_cos(Vec<T>* kernel, const Vec<T>* series) noexcept {
 
 template <class T> int rsmp_pcos(Vec<T>* kernel, const Vec<T>* series) noexcept {
     return build<T>(kernel, series, [](const T* a, int n, T theta) {
-        const T c = std::cos(theta);
+        const T c = libm::cos(theta);
         T sum = a[n - 1];
         for (int k = n - 2; k >= 0; --k) sum = sum * c + a[k];
         return sum;

@@ -134,12 +134,12 @@ int filter_keep(const Vec<T>& x, const Half<T>& f, Vec<T>& hist, std::int64_t fi
 // with a phase vector, every second sample from that phase on.
 template <class T>
 int stage(const Vec<T>& src, Vec<T>* dst, const Half<T>& f, Vec<T>* hist, Vec<T>* phase) noexcept {
-    if (f.h > 0 && size_history<T>(hist, src, f.taps() - 1) != 0) return -1;
+    if (f.h > 0 && prepare_history<T>(hist, src, f.taps() - 1) != 0) return -1;
     const std::int64_t n = src.points;
     std::int64_t first = 0, count = n, next = 0;
     const int step = phase ? 2 : 1;
     if (phase) {
-        if (size_history<T>(phase, src, 1) != 0) return -1;
+        if (prepare_history<T>(phase, src, 1) != 0) return -1;
         const int p = round_half_up<T>(phase->data[0]);
         first = p > 0 ? p : 0;
         const std::int64_t span = n + 1 - first;
@@ -160,7 +160,8 @@ int stage(const Vec<T>& src, Vec<T>* dst, const Half<T>& f, Vec<T>* hist, Vec<T>
 
 template <class T> void drop_front(Vec<T>* v, int& pending) noexcept {
     const int d = v->points < pending ? v->points : pending;
-    if (d > 0) shift<T>(v, d);
+    if (d <= 0) return;
+    shift<T>(v, d);
     pending -= d;
 }
 
@@ -183,7 +184,7 @@ template <class T> int size_state(Vec<T>* v, int complex, int n) noexcept {
     init<T>(&kind);
     kind.complex = complex;
     kind.delta = v->delta;
-    return size_history<T>(v, kind, n);
+    return prepare_history<T>(v, kind, n);
 }
 
 }  // namespace
@@ -369,8 +370,7 @@ int hrsmp(const Vec<T>* in, Vec<T>* out, Vec<T>* scratch, const RsmpCoef<T>* c, 
     RsmpState<T> local;
     rsmp_state_init<T>(&local);
     const int rc = run<T>(in, out, sc, *c, &local);  // nothing pending: nothing dropped
-    rsmp_state_destroy<T>(&local);
-    return rc;
+    return rsmp_state_destroy<T>(&local) != 0 ? -1 : rc;
 }
 
 template int rsmp_coef_init<double>(RsmpCoef<double>*) noexcept;

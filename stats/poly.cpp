@@ -68,6 +68,20 @@ int all_roots(const Cx* a, int d, bool real, Cx* z) noexcept {
     return 0;
 }
 
+// Whether the real part of z is a root of the real coefficients a to
+// rounding: |q(x)| within Horner's error bound 2 d eps sum |a_k| |x|^k (a
+// multiple root comes back as a close complex pair, yet solves q = 0 on the line).
+bool real_to_rounding(const Cx* a, int d, Cx z) noexcept {
+    if (z.imag() == 0) return true;
+    const double x = z.real();
+    double q = a[d].real(), b = std::fabs(q);
+    for (int k = d - 1; k >= 0; --k) {
+        q = q * x + a[k].real();
+        b = b * std::fabs(x) + std::fabs(a[k].real());
+    }
+    return std::fabs(q) <= 2 * d * Traits<double>::eps * b;
+}
+
 // The solution of q = 0 nearest x0 among the roots (real ones only when asked).
 // -1 when there is none (or scratch fails); every x solves q = 0 when d < 0.
 int nearest(const Cx* a, int d, bool real_poly, bool real_only, Cx x0, Cx& best) noexcept {
@@ -76,6 +90,8 @@ int nearest(const Cx* a, int d, bool real_poly, bool real_only, Cx x0, Cx& best)
     Buffer z(static_cast<std::size_t>(d));
     if (!z.p || all_roots(a, d, real_poly, z.p) != 0) return -1;
     int pick = -1;
+    for (int k = 0; k < d; ++k)
+        if (real_only && real_to_rounding(a, d, z.p[k])) z.p[k] = z.p[k].real();
     for (int k = 0; k < d; ++k)
         if ((!real_only || z.p[k].imag() == 0) && (pick < 0 || std::abs(z.p[k] - x0) < std::abs(z.p[pick] - x0))) pick = k;
     if (pick < 0) return -1;

@@ -56,11 +56,21 @@ static void print_info(const dsp_vector *v, int index) {
         printf(", min %.6g, max %.6g, mean %.6g\n", lo, hi, mean_re);
 }
 
+/* The strongest peak of a real vector, between samples, at its abscissa. */
+static void print_peak(const dsp_vector *v) {
+    dsp_vector peak;
+    dsp_init(&peak);
+    if (!v->complex && dsps_peak(v, &peak) == 0)
+        printf("  peak at %.9g (sample %.4f): %.9g\n", peak.data[0] * v->delta, peak.data[0], peak.data[1]);
+    dsp_destroy(&peak);
+}
+
 int cmd_info(int argc, char **argv) {
-    int status = 0, index = 0, r;
+    int status = 0, index = 0, r, peak = argc == 2 && strcmp(argv[0], "--peak") == 0;
     dsp_vector v;
     FILE *f;
-    if (argc != 1) return fail(ZFVEC_USAGE, "info: needs exactly one file");
+    if (peak) ++argv, --argc;
+    if (argc != 1 || (argv[0][0] == '-' && argv[0][1] == '-')) return fail(ZFVEC_USAGE, "info: needs exactly one file");
     if (!(f = open_input(argv[0]))) return 1;
     dsp_init(&v);
     for (;;) {
@@ -69,6 +79,7 @@ int cmd_info(int argc, char **argv) {
         ++index;
         if (r < 0) { status = read_failure(argv[0], f, index, binary, v.points); break; }
         print_info(&v, index);
+        if (peak) print_peak(&v);
     }
     if (status == 0 && index == 0) printf("%s: no vectors\n", argv[0]);
     dspf_fclose(f);

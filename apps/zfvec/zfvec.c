@@ -9,8 +9,9 @@
 static const zfvec_command commands[] = {
     {"print", "usage: zfvec print FILE...\n"
               "  one summary line per vector\n", cmd_print},
-    {"info", "usage: zfvec info FILE\n"
-             "  points, form, spacing, minimum, maximum and mean per vector\n", cmd_info},
+    {"info", "usage: zfvec info [--peak] FILE\n"
+             "  points, form, spacing, minimum, maximum and mean per vector; --peak adds\n"
+             "  the strongest peak of each real vector, interpolated between samples\n", cmd_info},
     {"convert", "usage: zfvec convert [--ascii|--binary] [--float|--double] IN OUT\n"
                 "  rewrite every vector (default: binary, double)\n", cmd_convert},
     {"example", "usage: zfvec example OUT\n"
@@ -27,6 +28,14 @@ static const zfvec_command commands[] = {
                  "  the records (MODE mean, max, min or exp[:K], exponential of time constant K\n"
                  "  records), in dB with the window's gain taken out so that a sine of amplitude\n"
                  "  A reads 20 log10(A); writes it to OUT and prints the K strongest peaks (5)\n", cmd_spectrum},
+    {"filter", "usage: zfvec filter --lowpass|--highpass|--bandpass F1[:F2] [--taps N] [--window NAME] IN OUT\n"
+               "  FIR filtering of every record of IN as one stream (one history, no seams):\n"
+               "  edges in Hz (band-pass F1:F2), N taps (63; made odd), designed by the\n"
+               "  library and shaped by the window NAME (Kaiser90), gain 1 in the pass band\n", cmd_filter},
+    {"resample", "usage: zfvec resample --ratio R | --rate HZ IN OUT\n"
+                 "  rate conversion of every record of IN as one stream by the streaming\n"
+                 "  resampler: R is the output spacing over the input's (above 1 gives fewer\n"
+                 "  samples), or HZ the new sample rate\n", cmd_resample},
     {"plot", "usage: zfvec plot IN [-o OUT.svg] [--db] [--title T] [--freq] [--ylabel T]\n"
              "  draw every vector of IN as an SVG line plot (default OUT: IN with .svg), one\n"
              "  panel each; complex vectors as magnitudes; --db draws 20 log10 |x|; --freq\n"

@@ -51,5 +51,7 @@ int cmd_example(int argc, char **argv);
 int cmd_plot(int argc, char **argv);
 int cmd_generate(int argc, char **argv);
 int cmd_spectrum(int argc, char **argv);
+int cmd_filter(int argc, char **argv);
+int cmd_resample(int argc, char **argv);
 
 #endif

@@ -239,8 +239,10 @@ ZF_API int ZF_CALL dspfu_tof(const dspf_vector *src, dspf_vector *dst);
 /** Orders a against b within tol into *result (-1, 0, 1); returns -1 when the lengths differ. */
 ZF_API int ZF_CALL dsp_cmp (const dsp_vector  *a, const dsp_vector  *b, double tol, int *result);
 ZF_API int ZF_CALL dspf_cmp(const dspf_vector *a, const dspf_vector *b, float  tol, int *result);
-/** Install an allocation hook (null restores the standard allocator); the
- * previous hook is stored in *previous when previous is not null. Return 0. */
+/** Install the allocation hooks of a precision: dsp_lib_alloc, dsp_lib_realloc
+ * and dsp_lib_free (dspf_lib_alloc, dspf_lib_realloc, dspf_lib_free); null
+ * restores the standard allocator; the previous hook is stored in *previous
+ * when previous is not null. Return 0. */
 ZF_API int ZF_CALL dsp_lib_alloc   (dsp_alloc_hook    hook, dsp_alloc_hook    *previous);
 ZF_API int ZF_CALL dsp_lib_realloc (dsp_realloc_hook  hook, dsp_realloc_hook  *previous);
 ZF_API int ZF_CALL dsp_lib_free    (dsp_free_hook     hook, dsp_free_hook     *previous);
@@ -256,8 +258,9 @@ ZF_API int ZF_CALL dspf_free_internal(void);
 /** The library's version number, 205. */
 ZF_API int ZF_CALL dsp_version (void);
 ZF_API int ZF_CALL dspf_version(void);
-/** Floating-point control word entry points; no such register on x86: get and
- * set return 0, set_runfast does nothing. Caller-pops convention. */
+/** Floating-point control word entry points; no such register on x86:
+ * get_fpscr and set_fpscr return 0, set_runfast does nothing. Caller-pops
+ * convention. */
 ZF_API int  ZF_CDECL get_fpscr(void);
 ZF_API int  ZF_CDECL set_fpscr(int word);
 ZF_API void ZF_CDECL set_runfast(void);
@@ -774,11 +777,12 @@ ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
 /** Causal FIR filtering y[n] = sum h[k] x[n-k], output as long as the input
  * (complex when the input or h is); state (or null for zeros) carries the
  * last M-1 inputs, oldest first, so blocks join without a seam. Long real
- * responses run by overlap-save FFT convolution with a cached coefficient
- * transform keyed on the values and the transform length, which depends on
- * M only, so streamed blocks equal one whole call up to rounding. M <= 0:
- * the output is a copy. out may be in; -1 when in or out shares storage with
- * state or out with h. */
+ * responses (M >= 46, 36 on complex input, M-1 <= N) run by overlap-save
+ * FFT convolution; its cached coefficient transform is keyed on the values
+ * and the transform length, so streamed blocks of any sizes equal one whole
+ * call up to rounding. M <= 0:
+ * the output is a copy. out may be in; -1 when state shares storage with in,
+ * out or h, or out with h. */
 ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
 ZF_API int ZF_CALL dspfd_fir(const dspf_vector *in, dspf_vector *out, const dspf_vector *h, dspf_vector *state);
 /** dspd_fir with the response expanded from half: 2H taps, or 2H-1 with odd
@@ -1027,8 +1031,9 @@ ZF_API int ZF_CALL dspfs_peak(const dspf_vector *in, dspf_vector *out);
 ZF_API int ZF_CALL dsps_peval (const dsp_vector  *p, const dsp_vector  *x, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_vector *out);
 /* The real x with p(x) = y nearest x0 (one real point): among the real roots of
- * p - y (dsps_proots) the nearest, polished by Newton steps that fall back to
- * bisection inside a bracketing sign change. p identically y gives x0. -1 (out
+ * p - y (dsps_proots; a root counts as real when p - y at its real part is 0 to
+ * rounding, as at a multiple root) the nearest, polished by Newton steps that
+ * fall back to bisection inside a bracketing sign change. p identically y gives x0. -1 (out
  * untouched) for a complex p, NaN y or x0, or when p - y has no real root
  * (a nonzero constant included). */
 ZF_API int ZF_CALL dsps_psolve (const dsp_vector  *p, double y, double x0, dsp_vector  *out);

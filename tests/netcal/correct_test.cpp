@@ -82,9 +82,7 @@ TEST(Compute1PortTermsTest, SingularStandardsGiveThePartlyReducedTerms) {
     Trace m1 = {3, 0}, m2 = {3, 0}, m3 = {3, 0};
     const Trace g = {2, 0};
     Compute1PortTerms(m1.data(), m2.data(), m3.data(), g.data(), g.data(), g.data(), 0, 1);
-    EXPECT_EQ(lc(m1, 0), LC(-3, 0));
-    EXPECT_EQ(lc(m2, 0), LC(3, 0));
-    EXPECT_EQ(lc(m3, 0), LC(-15, 0));
+    EXPECT_EQ(std::tuple(lc(m1, 0), lc(m2, 0), lc(m3, 0)), std::tuple(LC(-3, 0), LC(3, 0), LC(-15, 0)));
 }
 
 TEST(ApplyEnhancedResponseTest, AgreesWithClosedForm) {

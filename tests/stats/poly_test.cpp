@@ -97,6 +97,8 @@ TYPED_TEST(Poly, SolutionsNearestTheStartingPoint) {
         EXPECT_TRUE(near_all(out.scalars(), std::vector<double>{want}, tol<T>(8))) << x0;
     }
     EXPECT_EQ(api::psolve(sq.get(), T(0), T(0), out.get()), -1);
+    ASSERT_EQ(api::psolve(Owned<T>({T(1), T(-2), T(1)}).get(), T(0), T(5), out.get()), 0);   // the double root of (x - 1)^2
+    EXPECT_TRUE(near_all(out.scalars(), std::vector<double>{1}, std::sqrt(tol<T>())));
     for (double im : {0.9, -5.0}) {
         ASSERT_EQ(api::pcsolve(sq.get(), T(0), T(0), T(0), T(im), out.get()), 0);
         EXPECT_TRUE(near_all(out.scalars(), std::vector<double>{0, im > 0 ? 1.0 : -1.0}, tol<T>(8)));

@@ -15,6 +15,4 @@ inline int hwfilt(const dsp_vector* i, dsp_vector* o, int k, dsp_vector* s) { re
 inline int hwfilt(const dspf_vector* i, dspf_vector* o, int k, dspf_vector* s) { return dspfd_hwfilt(i, o, k, s); }
 inline int hwfilt(dsp_vector* v, int k) { return dspi_hwfilt(v, k); }
 inline int hwfilt(dspf_vector* v, int k) { return dspfi_hwfilt(v, k); }
-inline int free_internal(const dsp_vector*) { return dsp_free_internal(); }
-inline int free_internal(const dspf_vector*) { return dspf_free_internal(); }
 }  // namespace api

@@ -3,6 +3,8 @@
 #pragma once
 #include <zifaif/dsp.h>
 
+#include "filter/resample.hpp"
+
 namespace api {
 inline int deci(const dsp_vector* i, dsp_vector* o, int f, dsp_vector* p) { return dspd_deci(i, o, f, p); }
 inline int deci(const dspf_vector* i, dspf_vector* o, int f, dspf_vector* p) { return dspfd_deci(i, o, f, p); }
@@ -16,40 +18,26 @@ inline int rsmp(const dsp_vector* i, dsp_vector* o, int m, const dsp_vector* k, 
 inline int rsmp(const dspf_vector* i, dspf_vector* o, int m, const dspf_vector* k, float r, dspf_vector* h) { return dspfd_rsmp(i, o, m, k, r, h); }
 inline int rsmp2(const dsp_vector* i, dsp_vector* o, int m, int w, double r, dsp_vector* h) { return dspd_rsmp2(i, o, m, w, r, h); }
 inline int rsmp2(const dspf_vector* i, dspf_vector* o, int m, int w, float r, dspf_vector* h) { return dspfd_rsmp2(i, o, m, w, r, h); }
-}  // namespace api
 
-// The streaming resampler's records of a precision, set up for one ratio and
-// released on scope exit.
-namespace api {
-template <class T> struct Resampler;
-template <> struct Resampler<double> {
-    dsph_rsmp_coef c;
-    dsph_rsmp_state s;
-    int status;
-    explicit Resampler(double ratio, int force = 0, int complex = 0) {
-        dsph_rsmp_coef_init(&c);
-        dsph_rsmp_state_init(&s);
-        status = dsph_rsmp_coef_alloc(&c, nullptr) | dsph_rsmp_coef_setup(&c, ratio, force, nullptr) |
-                 dsph_rsmp_state_alloc(&c, &s, complex) | dsph_rsmp_state_reset(&c, &s);
-    }
-    ~Resampler() { dsph_rsmp_state_destroy(&s); dsph_rsmp_coef_destroy(&c); }
-    int run(const dsp_vector* i, dsp_vector* o, dsp_vector* sc = nullptr) { return dsph_rsmp(i, o, sc, &c, &s); }
-    int lone(const dsp_vector* i, dsp_vector* o) { return dsph_rsmp(i, o, nullptr, &c, nullptr); }
-};
-template <> struct Resampler<float> {
-    dspfh_rsmp_coef c;
-    dspfh_rsmp_state s;
-    int status;
-    explicit Resampler(float ratio, int force = 0, int complex = 0) {
-        dspfh_rsmp_coef_init(&c);
-        dspfh_rsmp_state_init(&s);
-        status = dspfh_rsmp_coef_alloc(&c, nullptr) | dspfh_rsmp_coef_setup(&c, ratio, force, nullptr) |
-                 dspfh_rsmp_state_alloc(&c, &s, complex) | dspfh_rsmp_state_reset(&c, &s);
-    }
-    ~Resampler() { dspfh_rsmp_state_destroy(&s); dspfh_rsmp_coef_destroy(&c); }
-    int run(const dspf_vector* i, dspf_vector* o, dspf_vector* sc = nullptr) { return dspfh_rsmp(i, o, sc, &c, &s); }
-    int lone(const dspf_vector* i, dspf_vector* o) { return dspfh_rsmp(i, o, nullptr, &c, nullptr); }
-};
+// The streaming resampler: overloads by record type, and its two records set
+// up for one ratio and released on scope exit.
+inline int coef_alloc(dsph_rsmp_coef* c) { return dsph_rsmp_coef_init(c) | dsph_rsmp_coef_alloc(c, nullptr); }
+inline int coef_alloc(dspfh_rsmp_coef* c) { return dspfh_rsmp_coef_init(c) | dspfh_rsmp_coef_alloc(c, nullptr); }
 inline int coef_setup(dsph_rsmp_coef* c, double r, int f, void* p) { return dsph_rsmp_coef_setup(c, r, f, p); }
 inline int coef_setup(dspfh_rsmp_coef* c, float r, int f, void* p) { return dspfh_rsmp_coef_setup(c, r, f, p); }
+inline int state_start(dsph_rsmp_coef* c, dsph_rsmp_state* s, int cx) { return dsph_rsmp_state_init(s) | dsph_rsmp_state_alloc(c, s, cx) | dsph_rsmp_state_reset(c, s); }
+inline int state_start(dspfh_rsmp_coef* c, dspfh_rsmp_state* s, int cx) { return dspfh_rsmp_state_init(s) | dspfh_rsmp_state_alloc(c, s, cx) | dspfh_rsmp_state_reset(c, s); }
+inline void release(dsph_rsmp_coef* c, dsph_rsmp_state* s) { dsph_rsmp_state_destroy(s), dsph_rsmp_coef_destroy(c); }
+inline void release(dspfh_rsmp_coef* c, dspfh_rsmp_state* s) { dspfh_rsmp_state_destroy(s), dspfh_rsmp_coef_destroy(c); }
+inline int hrsmp(const dsp_vector* i, dsp_vector* o, dsp_vector* sc, dsph_rsmp_coef* c, dsph_rsmp_state* s) { return dsph_rsmp(i, o, sc, c, s); }
+inline int hrsmp(const dspf_vector* i, dspf_vector* o, dspf_vector* sc, dspfh_rsmp_coef* c, dspfh_rsmp_state* s) { return dspfh_rsmp(i, o, sc, c, s); }
+template <class T> struct Resampler {
+    zf::RsmpCoef<T> c;
+    zf::RsmpState<T> s;
+    int status;
+    explicit Resampler(T ratio, int force = 0, int complex = 0)
+        : status(coef_alloc(&c) | coef_setup(&c, ratio, force, nullptr) | state_start(&c, &s, complex)) {}
+    ~Resampler() { release(&c, &s); }
+    int run(const zf::Vec<T>* i, zf::Vec<T>* o, zf::Vec<T>* sc = nullptr) { return hrsmp(i, o, sc, &c, &s); }
+};
 }  // namespace api

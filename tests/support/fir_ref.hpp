@@ -40,12 +40,12 @@ template <class T> cl response(const std::vector<T>& h, long double f) {
 
 // Four sections y[n] = (x[n] + 2x[n-1] + 2x[n-2] + x[n-3])/4 - y[n-2]/2, from rest.
 inline std::vector<cl> hardware(std::vector<cl> x) {
+    auto at = [](const std::vector<cl>& v, long i) { return i >= 0 ? v[i] : cl(0); };
     for (int s = 0; s < 4; ++s) {
         std::vector<cl> y(x.size());
-        auto at = [](const std::vector<cl>& v, long i) { return i >= 0 ? v[i] : cl(0); };
         for (long n = 0; n < static_cast<long>(x.size()); ++n)
             y[n] = (at(x, n) + 2.0L * at(x, n - 1) + 2.0L * at(x, n - 2) + at(x, n - 3)) / 4.0L - at(y, n - 2) / 2.0L;
-        x = y;
+        x.swap(y);
     }
     return x;
 }

@@ -2,10 +2,7 @@
 // from the window's start, and the test-side overloads of the window entry points.
 #pragma once
 
-#include <cmath>
-#include <vector>
-
-#include "support/vectors.hpp"
+#include "support/vectors.hpp"   // <cmath>, <vector>
 
 namespace api {
 // The entry point of the precision T among its twins.

@@ -35,6 +35,8 @@ TYPED_TEST(WindowCacheTest, HitsReplacesCyclicallyAndReleases) {
     EXPECT_EQ(api::pick<T>(dspi_window, dspfi_window)(v.get(), 2, 1), -1);
     EXPECT_EQ(v.scalars(), std::vector<T>(30, T(1)));
     EXPECT_EQ(request(30), 1);                                     // ... and leaves no window under its key
+    H::fail_at = H::calls + 1;                                     // so does the temporary of a parametrised window
+    EXPECT_EQ(api::window_shape<T>(v.get(), 'k', T(5), T(0), 0), -1);
     EXPECT_EQ(api::pick<T>(dsp_free_internal, dspf_free_internal)(), 0);
     EXPECT_EQ(H::live, 0);
 }

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 #include <zifaif/dsp.h>
 
-#include <cctype>
+#include <strings.h>
+
 #include <string>
 
 namespace {
@@ -13,10 +14,6 @@ const std::pair<std::string, int> constants[] = {   // the header's names, canon
     ZT_KIND(FLATTOP) ZT_KIND(FLAT5) ZT_KIND(P401) ZT_KIND(FLAT6) ZT_KIND(P511) ZT_KIND(FLAT7) ZT_KIND(P611) ZT_KIND(P501)
     ZT_KIND(P601) ZT_KIND(KAISER70) ZT_KIND(KAISER80) ZT_KIND(KAISER90) ZT_KIND(KAISER100) ZT_KIND(KAISER110)
     ZT_KIND(KAISER120) ZT_KIND(GAUSS60) ZT_KIND(GAUSS70) ZT_KIND(GAUSS80) ZT_KIND(RIEMANN) ZT_KIND(SINC_LOBE)};
-std::string lower(std::string s) {
-    for (char& c : s) c = static_cast<char>(std::tolower(c));
-    return s;
-}
 }  // namespace
 
 TEST(WindowNames, RoundTripsUnknownNamesAndShortBuffers) {
@@ -24,16 +21,16 @@ TEST(WindowNames, RoundTripsUnknownNamesAndShortBuffers) {
         int last = -1, k = -1;
         char buf[32];
         for (const auto& [name, kind] : constants) {
-            for (const std::string& text : {name, lower(name), "DSP_WINDOW_" + name, "dsp_window_" + lower(name)}) {
+            for (const std::string& text : {name, "DSP_WINDOW_" + name, "dsp_Window_" + name}) {
                 EXPECT_EQ(from_str(text.c_str(), &k), 0) << text;
                 EXPECT_EQ(k, kind) << text;
             }
             if (kind == last) continue;
             ASSERT_EQ(to_str(kind, buf, sizeof buf), 0);   // the first name of the kind, in its short form
-            EXPECT_EQ(lower(buf), lower(name));
+            EXPECT_EQ(strcasecmp(buf, name.c_str()), 0) << buf;
             last = kind;
         }
-        for (auto [kind, name] : {std::pair(6, "Blackman_Harris4"), {9, "Flattop"}, {23, "Riemann"}, {24, ""}, {25, ""}, {-1, ""}}) {
+        for (auto [kind, name] : {std::pair(6, "Blackman_Harris4"), {9, "Flattop"}, {14, "Kaiser70"}, {23, "Riemann"}, {24, ""}, {25, ""}, {-1, ""}}) {
             EXPECT_EQ(to_str(kind, buf, sizeof buf), *name ? 0 : -1);
             EXPECT_STREQ(buf, name);
         }
