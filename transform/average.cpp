@@ -12,12 +12,13 @@ namespace zf {
 namespace {
 
 // Weight of the new record: as given when >= 0, else 1/count, or 1/limit once
-// count has reached a limit in (0, count] under avg_limit.
+// count has reached a limit in (0, count] under avg_limit. Only counts of 2
+// and more get here, so the divisor is never 0.
 template <class T> T weight_of(int flags, int count, T weight, T limit) noexcept {
     if (weight >= T(0)) return weight;
     T k = static_cast<T>(count);
     if ((flags & avg_limit) && limit > T(0) && limit <= k) k = limit;
-    return k == T(0) ? T(1) : T(1) / k;
+    return T(1) / k;
 }
 
 // The weighted mean of f(input) and f(acc), mapped back by g: every step runs

@@ -42,7 +42,8 @@ TYPED_TEST(Generate, SinusoidsFollowDirectTrigonometry) {
 // Moments of 100000 draws against mean, variance (5 standard errors) and fourth
 // central moment m4, the value bounds, and no correlation between neighbours
 // (the polar method hands out both values of each pair).
-TYPED_TEST(Generate, NoiseMoments) {
+// Then the line and the refusals.
+TYPED_TEST(Generate, NoiseMomentsLineAndRefusals) {
     using T = TypeParam;
     struct Case { int kind; bool complex; double lo, mean, var, m4; };
     const Case cases[] = {{0, false, -1, 0, 1.0 / 3, 1.0 / 5}, {1, false, -1e9, 0, 1, 3}, {2, false, 0, 1, 1, 9},
@@ -64,11 +65,7 @@ TYPED_TEST(Generate, NoiseMoments) {
         EXPECT_NEAR(s4 / m / c.m4, 1.0, 0.1);
         EXPECT_NEAR(lag / m / c.var, 0.0, 5 / std::sqrt(m));
     }
-}
-
-// A line by repeated addition (imaginary parts 0), and the refusals.
-TYPED_TEST(Generate, LineAndStatusCodes) {
-    using T = TypeParam;
+    // A line by repeated addition (imaginary parts 0), and the refusals.
     Owned<T> v(std::vector<T>(2000, T(9)), true, T(2)), real(std::vector<T>(4)), empty;
     ASSERT_EQ(api::line(v.get(), T(0.5), T(1)), 0);
     for (int i = 0; i < 1000; ++i) ASSERT_NEAR(v->data[2 * i] + 3 * v->data[2 * i + 1], 1.0 + i, tol<T>(1) * i * i);
