@@ -14,9 +14,9 @@
 //   streamed signal gives the whole-signal output (up to rounding) whatever
 //   the block sizes.
 // - The output may be the input record (built in the scratch vector, copied
-//   at the end); an input or output that shares storage with the history, or
-//   an output that shares it with the coefficients, is refused with -1 and
-//   nothing is changed.
+//   at the end); a history that shares storage with the input, the output or
+//   the coefficients, or an output that shares it with the coefficients, is
+//   refused with -1 and nothing is changed.
 // - sfir with odd and negate both set negates the mirrored taps only: the
 //   shared centre tap keeps its sign (half [1, 2] gives [1, 2, -1]).
 // - Fixed set 101 keeps the listed taps; expanded to 39 taps its gain is 1 to

@@ -781,8 +781,8 @@ ZF_API int ZF_CALL dspfc_fir2(dspf_vector *fir, int which);
  * FFT convolution; its cached coefficient transform is keyed on the values
  * and the transform length, so streamed blocks of any sizes equal one whole
  * call up to rounding. M <= 0:
- * the output is a copy. out may be in; -1 when in or out shares storage with
- * state or out with h. */
+ * the output is a copy. out may be in; -1 when state shares storage with in,
+ * out or h, or out with h. */
 ZF_API int ZF_CALL dspd_fir (const dsp_vector  *in, dsp_vector  *out, const dsp_vector  *h, dsp_vector  *state);
 ZF_API int ZF_CALL dspfd_fir(const dspf_vector *in, dspf_vector *out, const dspf_vector *h, dspf_vector *state);
 /** dspd_fir with the response expanded from half: 2H taps, or 2H-1 with odd

@@ -2,6 +2,7 @@
 // in frequency come back to rounding, in both turning directions and at
 // unsorted frequencies; collinear points give the straight line; the ends
 // hold; bad frequencies are refused.
+#include <string>
 #include <zifaif/instrument.h>
 
 #include <gtest/gtest.h>
@@ -32,7 +33,8 @@ TEST_P(CircularArc, PointsOfACircleComeBackToRounding) {
     EXPECT_LT(std::abs(out[0] - at(0.9)), 1e-13);
 }
 
-INSTANTIATE_TEST_SUITE_P(Turns, CircularArc, ::testing::Values(std::pair{1.5, 0.0}, std::pair{-1.5, 0.0}, std::pair{0.4, 0.3}, std::pair{-0.2, -0.4}));
+INSTANTIATE_TEST_SUITE_P(Turns, CircularArc, ::testing::Values(std::pair{1.5, 0.0}, std::pair{-1.5, 0.0}, std::pair{0.4, 0.3}, std::pair{-0.2, -0.4}),
+                         [](const auto& p) { return "Arc" + std::to_string(p.index); });
 
 TEST(CircularLine, CollinearPointsEndsAndRefusals) {
     const double f[] = {1, 2, 4, 5}, nf[] = {0, 1.5, 3.5, 4.5, 9}, bad[] = {1, 2, 2, 5};
