@@ -89,7 +89,7 @@ TYPED_TEST(ResampleTest, CapacityStopsAndOutputMayBeInput) {
     got.insert(got.end(), more->data, more->data + more->points);
     EXPECT_TRUE(near_all(got, whole, tol<T>(16)));
     out->points = 200;
-    ASSERT_EQ(api::rsmp2(in.get(), out.get(), 1, 4, T(2.5), nullptr) | api::rsmp2(in.get(), in.get(), 1, 4, T(2.5), nullptr), 0);
+    ASSERT_FALSE(api::rsmp2(in.get(), out.get(), 1, 4, T(2.5), nullptr) || api::rsmp2(in.get(), in.get(), 1, 4, T(2.5), nullptr));
     EXPECT_EQ(std::tuple(in.scalars(), in->delta), std::tuple(out.scalars(), T(2.5)));
 }
 

@@ -21,12 +21,12 @@ inline int rsmp2(const dspf_vector* i, dspf_vector* o, int m, int w, float r, ds
 
 // The streaming resampler: overloads by record type, and its two records set
 // up for one ratio and released on scope exit.
-inline int coef_alloc(dsph_rsmp_coef* c) { return dsph_rsmp_coef_init(c) | dsph_rsmp_coef_alloc(c, nullptr); }
-inline int coef_alloc(dspfh_rsmp_coef* c) { return dspfh_rsmp_coef_init(c) | dspfh_rsmp_coef_alloc(c, nullptr); }
+inline int start(dsph_rsmp_coef* c, dsph_rsmp_state* s) { return dsph_rsmp_coef_init(c) || dsph_rsmp_state_init(s) || dsph_rsmp_coef_alloc(c, nullptr) ? -1 : 0; }
+inline int start(dspfh_rsmp_coef* c, dspfh_rsmp_state* s) { return dspfh_rsmp_coef_init(c) || dspfh_rsmp_state_init(s) || dspfh_rsmp_coef_alloc(c, nullptr) ? -1 : 0; }
 inline int coef_setup(dsph_rsmp_coef* c, double r, int f, void* p) { return dsph_rsmp_coef_setup(c, r, f, p); }
 inline int coef_setup(dspfh_rsmp_coef* c, float r, int f, void* p) { return dspfh_rsmp_coef_setup(c, r, f, p); }
-inline int state_start(dsph_rsmp_coef* c, dsph_rsmp_state* s, int cx) { return dsph_rsmp_state_init(s) | dsph_rsmp_state_alloc(c, s, cx) | dsph_rsmp_state_reset(c, s); }
-inline int state_start(dspfh_rsmp_coef* c, dspfh_rsmp_state* s, int cx) { return dspfh_rsmp_state_init(s) | dspfh_rsmp_state_alloc(c, s, cx) | dspfh_rsmp_state_reset(c, s); }
+inline int state_start(dsph_rsmp_coef* c, dsph_rsmp_state* s, int cx) { return dsph_rsmp_state_alloc(c, s, cx) || dsph_rsmp_state_reset(c, s) ? -1 : 0; }
+inline int state_start(dspfh_rsmp_coef* c, dspfh_rsmp_state* s, int cx) { return dspfh_rsmp_state_alloc(c, s, cx) || dspfh_rsmp_state_reset(c, s) ? -1 : 0; }
 inline void release(dsph_rsmp_coef* c, dsph_rsmp_state* s) { dsph_rsmp_state_destroy(s), dsph_rsmp_coef_destroy(c); }
 inline void release(dspfh_rsmp_coef* c, dspfh_rsmp_state* s) { dspfh_rsmp_state_destroy(s), dspfh_rsmp_coef_destroy(c); }
 inline int hrsmp(const dsp_vector* i, dsp_vector* o, dsp_vector* sc, dsph_rsmp_coef* c, dsph_rsmp_state* s) { return dsph_rsmp(i, o, sc, c, s); }
@@ -36,7 +36,7 @@ template <class T> struct Resampler {
     zf::RsmpState<T> s;
     int status;
     explicit Resampler(T ratio, int force = 0, int complex = 0)
-        : status(coef_alloc(&c) | coef_setup(&c, ratio, force, nullptr) | state_start(&c, &s, complex)) {}
+        : status(start(&c, &s) || coef_setup(&c, ratio, force, nullptr) || state_start(&c, &s, complex) ? -1 : 0) {}
     ~Resampler() { release(&c, &s); }
     int run(const zf::Vec<T>* i, zf::Vec<T>* o, zf::Vec<T>* sc = nullptr) { return hrsmp(i, o, sc, &c, &s); }
 };
