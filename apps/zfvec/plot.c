@@ -172,8 +172,11 @@ int cmd_plot(int argc, char **argv) {
     fputs("</svg>\n", f);
     status = ferror(f) ? write_failure(out) : 0;
     status = close_output(f, out, status);
-    if (status == 0 && strcmp(out, "-") != 0) printf("wrote %s\n", out);
+    if (status == 0 && strcmp(out, "-") != 0) {
+        printf("wrote %s\n", out);
+        status = finish_stdout();
+    }
     free_all(vs, count);
     free(made);
-    return status == 0 && strcmp(out, "-") != 0 ? finish_stdout() : status;
+    return status;
 }
