@@ -1,8 +1,7 @@
-// AVX-512 direct-sum kernel on a real response: the portable kernel's sums
-// (taps outer over a block of outputs) with U registers of accumulators.
+// AVX-512 registers for the blocked direct-sum kernel of fir_blocked.hpp.
 #include <immintrin.h>
 
-#include "filter/fir.hpp"
+#include "filter/fir_blocked.hpp"
 
 namespace zf {
 namespace {
@@ -27,30 +26,9 @@ template <> struct Ops<float> {
     static R fma(R a, R b, R c) noexcept { return _mm512_fmadd_ps(a, b, c); }
 };
 
-// U * W outputs from x with every tap.
-template <class T, int U> inline void block(const T* x, const T* g, int m, std::ptrdiff_t s, T* y) noexcept {
-    using O = Ops<T>;
-    typename O::R acc[U];
-    for (int u = 0; u < U; ++u) acc[u] = O::zero();
-    for (int j = 0; j < m; ++j) {
-        const typename O::R gj = O::splat(g[j]);
-        const T* xp = x + s * j;
-        for (int u = 0; u < U; ++u) acc[u] = O::fma(gj, O::load(xp + u * O::W), acc[u]);
-    }
-    for (int u = 0; u < U; ++u) O::store(y + u * O::W, acc[u]);
-}
-
-template <class T> void conv(const T* x, const T* g, int m, int s, T* y, std::ptrdiff_t n) noexcept {
-    constexpr std::ptrdiff_t W = Ops<T>::W;
-    std::ptrdiff_t i = 0;
-    for (; i + 8 * W <= n; i += 8 * W) block<T, 8>(x + i, g, m, s, y + i);
-    for (; i + W <= n; i += W) block<T, 1>(x + i, g, m, s, y + i);
-    if (i < n) conv_portable<T>(x + i, g, m, s, y + i, n - i);
-}
-
 }  // namespace
 
-void conv_avx512(const double* x, const double* g, int m, int s, double* y, std::ptrdiff_t n) noexcept { conv<double>(x, g, m, s, y, n); }
-void conv_avx512(const float* x, const float* g, int m, int s, float* y, std::ptrdiff_t n) noexcept { conv<float>(x, g, m, s, y, n); }
+void conv_avx512(const double* x, const double* g, int m, int s, double* y, std::ptrdiff_t n) noexcept { blocked::conv<Ops<double>>(x, g, m, s, y, n); }
+void conv_avx512(const float* x, const float* g, int m, int s, float* y, std::ptrdiff_t n) noexcept { blocked::conv<Ops<float>>(x, g, m, s, y, n); }
 
 }  // namespace zf
