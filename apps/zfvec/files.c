@@ -162,13 +162,17 @@ int cmd_example(int argc, char **argv) {
     if (dsp_alloc(&sine) != 0 || dsp_alloc(&phasor) != 0 || dspf_alloc(&decay) != 0) {
         status = fail(1, "out of memory");
     } else {
-        for (k = 0; k < sine.points; ++k) sine.data[k] = sin(2 * pi * 62.5 * k * sine.delta);
+        /* Sine and cosine from the library, not the C runtime: the file holds
+         * the same bytes on every platform. */
+        for (k = 0; k < sine.points; ++k) sine.data[k] = 2 * pi * 62.5 * k * sine.delta;
         for (k = 0; k < phasor.points; ++k) {
-            phasor.data[2 * k] = 0.5 * cos(2 * pi * k / phasor.points);
-            phasor.data[2 * k + 1] = 0.5 * sin(2 * pi * k / phasor.points);
+            phasor.data[2 * k] = 0.5;
+            phasor.data[2 * k + 1] = 2 * pi * k / phasor.points;
         }
         for (k = 0; k < decay.points; ++k) decay.data[k] = (float)exp(-k / 10.0);
-        if (!(f = open_output(argv[0], "wb"))) {
+        if (dspi_sin(&sine) != 0 || dspi_ptor(&phasor) != 0) {
+            status = fail(1, "out of memory");
+        } else if (!(f = open_output(argv[0], "wb"))) {
             status = 1;
         } else {
             if (dspf_fwrite(&sine, f) != 0 || dspf_fwrite(&phasor, f) != 0 || dspff_fwrite(&decay, f) != 0)
