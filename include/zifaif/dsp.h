@@ -911,7 +911,7 @@ ZF_API int ZF_CALL dspfi_addcos(dspf_vector *v, int flags, float  amp, float  fr
 /* Interpolation and splines                                                 */
 /* ------------------------------------------------------------------------ */
 
-/* Knots x (strictly increasing, no NaN) and values y, both real of n points;
+/** Knots x (strictly increasing, no NaN) and values y, both real of n points;
  * new abscissae xi, real. out gets xi's points and delta, real; out may be any
  * input. Bad knots (not strictly increasing or NaN), y not of n points, a
  * complex x, y, xi or y2, or a y2 not of n points: -1 before out is touched.
@@ -934,10 +934,10 @@ ZF_API int ZF_CALL dspfi_addcos(dspf_vector *v, int flags, float  amp, float  fr
  * y[0] + y2[0] (xi - x[0])^2 / 2. 0 or -1. */
 ZF_API int ZF_CALL dsp_interp (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out, int flags);
 ZF_API int ZF_CALL dspf_interp(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out, int flags);
-/* dsp_interp in mode 5 (cubic spline, extrapolating). 0 or -1. */
+/** dsp_interp in mode 5 (cubic spline, extrapolating). 0 or -1. */
 ZF_API int ZF_CALL dsp_cspline (const dsp_vector  *x, const dsp_vector  *y, const dsp_vector  *y2, const dsp_vector  *xi, dsp_vector  *out);
 ZF_API int ZF_CALL dspf_cspline(const dspf_vector *x, const dspf_vector *y, const dspf_vector *y2, const dspf_vector *xi, dspf_vector *out);
-/* Second derivatives y2 of the cubic spline through the n >= 4 knots (x, y),
+/** Second derivatives y2 of the cubic spline through the n >= 4 knots (x, y),
  * real, n points, delta the mean of x's and y's; y2 may be x or y. End
  * conditions cond0 (first knot) and condn (last knot): 0 not-a-knot (one cubic
  * over the first or last two intervals), 1 slope d0 / dn, 2 second derivative
@@ -947,7 +947,7 @@ ZF_API int ZF_CALL dspf_cspline(const dspf_vector *x, const dspf_vector *y, cons
  * is not positive (NaN included). */
 ZF_API int ZF_CALL dspb_cspline_2d (const dsp_vector  *x, const dsp_vector  *y, dsp_vector  *y2, double d0, double dn, int cond0, int condn);
 ZF_API int ZF_CALL dspfb_cspline_2d(const dspf_vector *x, const dspf_vector *y, dspf_vector *y2, float  d0, float  dn, int cond0, int condn);
-/* Doubles the rate in place by zero insertion: sample k moves to 2k, 2k + 1
+/** Doubles the rate in place by zero insertion: sample k moves to 2k, 2k + 1
  * becomes 0 (a zero pair when complex), points doubles and delta halves. 0 or -1. */
 ZF_API int ZF_CALL dspi_zinter (dsp_vector  *v);
 ZF_API int ZF_CALL dspfi_zinter(dspf_vector *v);
@@ -1012,7 +1012,7 @@ ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
 /* Polynomials hold their coefficients lowest power first (as dspb_pmul and
  * dspi_pdiffer); leading zero coefficients lower the degree. Every output may
  * be an input record. */
-/* Counts of the real samples in `bins` equal bins between lo and hi: bin k holds
+/** Counts of the real samples in `bins` equal bins between lo and hi: bin k holds
  * lo + k w <= x < lo + (k + 1) w, w = (hi - lo) / bins, the last bin also x = hi;
  * samples outside [lo, hi] and NaN are not counted. out: bins real points,
  * delta w (bin k is centred on lo + (k + 1/2) w); single-precision counts are
@@ -1020,7 +1020,7 @@ ZF_API int ZF_CALL dspfs_hmean(const dspf_vector *in, dspf_vector *out);
  * that are not finite with lo < hi. */
 ZF_API int ZF_CALL dsps_hist (const dsp_vector  *in, double lo, double hi, int bins, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_hist(const dspf_vector *in, float  lo, float  hi, int bins, dspf_vector *out);
-/* Strongest peak of a real vector: out = (position, height), two real points,
+/** Strongest peak of a real vector: out = (position, height), two real points,
  * position in samples (times delta for the abscissa). The largest sample (the
  * first of equals; NaN ignored) and its neighbours give the vertex of their
  * parabola; a run of equal largest samples (a plateau) gives its centre and
@@ -1028,12 +1028,12 @@ ZF_API int ZF_CALL dspfs_hist(const dspf_vector *in, float  lo, float  hi, int b
  * -1 (out untouched) for complex input or no sample other than NaN. */
 ZF_API int ZF_CALL dsps_peak (const dsp_vector  *in, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_peak(const dspf_vector *in, dspf_vector *out);
-/* p at every sample of x by Horner (in double): out gets x's points and delta,
+/** p at every sample of x by Horner (in double): out gets x's points and delta,
  * complex when p or x is; an empty p gives zeros; results beyond the guard
  * 1e100 (1e15) are held at it. 0 or -1. */
 ZF_API int ZF_CALL dsps_peval (const dsp_vector  *p, const dsp_vector  *x, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_vector *out);
-/* The real x with p(x) = y nearest x0 (one real point): among the real roots of
+/** The real x with p(x) = y nearest x0 (one real point): among the real roots of
  * p - y (dsps_proots; a root counts as real when p - y at its real part is 0 to
  * rounding, as at a multiple root) the nearest, polished by Newton steps that
  * fall back to bisection inside a bracketing sign change. p identically y gives x0. -1 (out
@@ -1041,12 +1041,12 @@ ZF_API int ZF_CALL dspfs_peval(const dspf_vector *p, const dspf_vector *x, dspf_
  * (a nonzero constant included). */
 ZF_API int ZF_CALL dsps_psolve (const dsp_vector  *p, double y, double x0, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_psolve(const dspf_vector *p, float  y, float  x0, dspf_vector *out);
-/* The complex x with p(x) = y nearest x0 (one complex point); p real or complex.
+/** The complex x with p(x) = y nearest x0 (one complex point); p real or complex.
  * p identically y gives x0. -1 (out untouched) for a NaN argument or when
  * p - y is a nonzero constant. */
 ZF_API int ZF_CALL dsps_pcsolve (const dsp_vector  *p, double y_re, double y_im, double x0_re, double x0_im, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_pcsolve(const dspf_vector *p, float  y_re, float  y_im, float  x0_re, float  x0_im, dspf_vector *out);
-/* All d roots of p of degree d (real or complex coefficients), complex, d points,
+/** All d roots of p of degree d (real or complex coefficients), complex, d points,
  * ascending by real part then imaginary part; zero low coefficients give exact
  * zero roots; a real p gives exactly real roots where a root has no conjugate
  * partner. Aberth-Ehrlich iteration in double from the circles of the Newton
@@ -1061,22 +1061,22 @@ ZF_API int ZF_CALL dspfs_pcsolve(const dspf_vector *p, float  y_re, float  y_im,
  * A nonzero constant gives no roots; -1 (out untouched) for an empty or zero p. */
 ZF_API int ZF_CALL dsps_proots (const dsp_vector  *p, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_proots(const dspf_vector *p, dspf_vector *out);
-/* dsps_proots in place: v becomes its roots. */
+/** dsps_proots in place: v becomes its roots. */
 ZF_API int ZF_CALL dspi_proots (dsp_vector  *v);
 ZF_API int ZF_CALL dspfi_proots(dspf_vector *v);
-/* In place: the n roots (real or complex) become the n + 1 coefficients of the
+/** In place: the n roots (real or complex) become the n + 1 coefficients of the
  * monic polynomial (x - r_0) ... (x - r_(n-1)), complex as the roots; no roots
  * give the constant 1. 0 or -1. */
 ZF_API int ZF_CALL dspi_pztoc (dsp_vector  *v);
 ZF_API int ZF_CALL dspfi_pztoc(dspf_vector *v);
-/* Least-squares line y = slope x + offset through the real samples against
+/** Least-squares line y = slope x + offset through the real samples against
  * x_k = k delta: out = (slope, offset, r), three real points, r the correlation
  * coefficient (0 when the samples have no spread). Centred sums in double.
  * -1 (out untouched) for complex input, fewer than two samples or delta 0;
  * NaN samples give NaN results. */
 ZF_API int ZF_CALL dsps_lin_regres (const dsp_vector  *y, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_lin_regres(const dspf_vector *y, dspf_vector *out);
-/* As dsps_lin_regres against the abscissae x (real, as many points as y); -1
+/** As dsps_lin_regres against the abscissae x (real, as many points as y); -1
  * also when the abscissae are all equal or one is NaN. */
 ZF_API int ZF_CALL dsps_lin_regres2 (const dsp_vector  *x, const dsp_vector  *y, dsp_vector  *out);
 ZF_API int ZF_CALL dspfs_lin_regres2(const dspf_vector *x, const dspf_vector *y, dspf_vector *out);

@@ -119,7 +119,7 @@ ZF_API int ZF_CDECL vfps_SmoothCpx(const float *src, float *dst, int total, int 
 /* Circle fit                                                                */
 /* ------------------------------------------------------------------------ */
 
-/* Centre (centre[0] real, centre[1] imaginary), radius and residual of the
+/** Centre (centre[0] real, centre[1] imaginary), radius and residual of the
  * circle best fitting the complex points [start, stop) of trace (a resonator's
  * reflection locus, for instance): Taubin's algebraic fit, refined by
  * Levenberg-Marquardt steps on the geometric distances |z - centre| - radius.
@@ -220,7 +220,7 @@ ZF_API int ZF_CDECL GetPerfData2(long long *frequency, long long *r1, long long 
  * collinear (the sine of the turn at the middle one below 1.5e-8) or
  * coincide fall back to the straight line through the two points around the
  * frequency. Frequencies must be strictly increasing (no NaN). */
-/* Resamples the whole trace: the n points (complex, at freq) at the m
+/** Resamples the whole trace: the n points (complex, at freq) at the m
  * frequencies newFreq into newPoints (another array), each from the three
  * points centred on the trace point nearest it (the lower on a tie; the first
  * or last three at the ends); two points give the straight line, one point a
@@ -228,7 +228,7 @@ ZF_API int ZF_CDECL GetPerfData2(long long *frequency, long long *r1, long long 
  * NaN frequency gives a NaN point. newFreq may be in any order. Returns m, or
  * -1 with nothing written for a null array, n < 1, m < 0 or bad freq. */
 ZF_API int ZF_CDECL CircularInterpolation(const double *freq, const double *points, int n, const double *newFreq, double *newPoints, int m);
-/* One point: the value at frequency f (which may lie outside freq[0] ..
+/** One point: the value at frequency f (which may lie outside freq[0] ..
  * freq[2]: the arc is extended) from the three points (complex, at freq[0] <
  * freq[1] < freq[2]) into result (one complex point). Returns 1 along the arc,
  * 0 along the straight line (collinear points), -1 with nothing written for a
