@@ -62,7 +62,7 @@ TYPED_TEST(Generate, NoiseMomentsLineAndRefusals) {
         }
         EXPECT_NEAR(s / m, 0, 5 * std::sqrt(c.var / m));
         EXPECT_NEAR(s2 / m, c.var, 5 * std::sqrt((c.m4 * 3 - c.var * c.var) / m));
-        EXPECT_NEAR(s4 / m / c.m4, 1.0, 0.1);
+        EXPECT_NEAR(s4 / m / c.m4, 1.0, 0.25);   // about 6 standard deviations for the exponential kind
         EXPECT_NEAR(lag / m / c.var, 0.0, 5 / std::sqrt(m));
     }
     // A line by repeated addition (imaginary parts 0), and the refusals.
