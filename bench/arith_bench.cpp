@@ -18,12 +18,10 @@
 
 namespace {
 
-constexpr int k1k = 1 << 10, k64k = 1 << 16, k16M = 1 << 24;
+using zb::restored;
+using zb::set_counters;
 
-template <class T> void set_counters(benchmark::State& state, int n, int scalars_moved) {
-    state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * n);
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * n * scalars_moved * static_cast<int64_t>(sizeof(T)));
-}
+constexpr int k1k = 1 << 10, k64k = 1 << 16, k16M = 1 << 24;
 
 // memcpy of n real samples into a distinct buffer that is reused: the bound
 // for every single-pass operation over the same bytes.
@@ -67,32 +65,6 @@ template <class T> void BM_arith_magsq_complex(benchmark::State& state) {
         benchmark::ClobberMemory();
     }
     set_counters<T>(state, n, 3);
-}
-
-// CPU time of this thread: the machine is shared, and wall time would count the
-// time the benchmark spends descheduled.
-double thread_seconds() {
-    timespec t{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-    return static_cast<double>(t.tv_sec) + 1e-9 * static_cast<double>(t.tv_nsec);
-}
-
-// Operations whose result cannot be fed back in: the input is restored from a
-// pristine copy before each run and only the operation is timed.
-template <class T, class Op>
-void restored(benchmark::State& state, bool complex, double lo, double hi, int scalars_moved, Op op) {
-    const int n = static_cast<int>(state.range(0));
-    zb::Filled<T> pristine(n, complex, lo, hi), work(n, complex, lo, hi);
-    for (auto _ : state) {
-        std::memcpy(work.v.data, pristine.v.data, pristine.bytes());
-        work.v.complex = complex;
-        benchmark::ClobberMemory();
-        const double t0 = thread_seconds();
-        op(work.get());
-        benchmark::ClobberMemory();
-        state.SetIterationTime(thread_seconds() - t0);
-    }
-    set_counters<T>(state, n, scalars_moved);
 }
 
 template <class T> void BM_arith_db_real(benchmark::State& state) {

@@ -5,6 +5,9 @@
 #include <benchmark/benchmark.h>
 #include <zifaif/dsp.h>
 
+#include <time.h>
+
+#include <cstdint>
 #include <cstring>
 #include <random>
 
@@ -32,5 +35,37 @@ template <class T> struct Filled {
     Vec<T>* get() { return &v; }
     std::size_t bytes() const { return static_cast<std::size_t>(zf::need<T>(v)) * sizeof(T); }
 };
+
+// Items and bytes per iteration: n samples, scalars_moved scalars of T each.
+template <class T> void set_counters(benchmark::State& state, int n, int scalars_moved) {
+    state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * n);
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * n * scalars_moved * static_cast<int64_t>(sizeof(T)));
+}
+
+// CPU time of this thread: the machine is shared, and wall time would count the
+// time the benchmark spends descheduled.
+inline double thread_seconds() {
+    timespec t{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
+    return static_cast<double>(t.tv_sec) + 1e-9 * static_cast<double>(t.tv_nsec);
+}
+
+// Operations whose result cannot be fed back in: the input is restored from a
+// pristine copy before each run and only the operation is timed (manual time).
+template <class T, class Op>
+void restored(benchmark::State& state, bool complex, double lo, double hi, int scalars_moved, Op op) {
+    const int n = static_cast<int>(state.range(0));
+    Filled<T> pristine(n, complex, lo, hi), work(n, complex, lo, hi);
+    for (auto _ : state) {
+        std::memcpy(work.v.data, pristine.v.data, pristine.bytes());
+        work.v.complex = complex;
+        benchmark::ClobberMemory();
+        const double t0 = thread_seconds();
+        op(work.get());
+        benchmark::ClobberMemory();
+        state.SetIterationTime(thread_seconds() - t0);
+    }
+    set_counters<T>(state, n, scalars_moved);
+}
 
 }  // namespace zb

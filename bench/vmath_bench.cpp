@@ -16,27 +16,7 @@
 
 namespace {
 
-double thread_seconds() {
-    timespec t{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-    return static_cast<double>(t.tv_sec) + 1e-9 * static_cast<double>(t.tv_nsec);
-}
-
-template <class T, class Op> void restored(benchmark::State& state, bool complex, double lo, double hi, int moved, Op op) {
-    const int n = static_cast<int>(state.range(0));
-    zb::Filled<T> pristine(n, complex, lo, hi), work(n, complex, lo, hi);
-    for (auto _ : state) {
-        std::memcpy(work.v.data, pristine.v.data, pristine.bytes());
-        work.v.complex = complex;
-        benchmark::ClobberMemory();
-        const double t0 = thread_seconds();
-        op(work.get());
-        benchmark::ClobberMemory();
-        state.SetIterationTime(thread_seconds() - t0);
-    }
-    state.SetItemsProcessed(static_cast<int64_t>(state.iterations()) * n);
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * n * moved * static_cast<int64_t>(sizeof(T)));
-}
+using zb::restored;
 
 template <class T> void BM_arith_mag(benchmark::State& state) {
     restored<T>(state, true, -1e3, 1e3, 3, [](zf::Vec<T>* v) { zf::mag<T>(v); });
