@@ -408,7 +408,9 @@ template <class T> int read_ascii(Vec<T>& v, std::FILE* f) noexcept {
             int flag;
             T delta;
             if (std::sscanf(line, patterns.points, &count) == 1) {
-                expected = count < 0 ? 0 : count;
+                // Counts are 32-bit: a larger one can never be met (and would
+                // overflow the count of scalars), so it stands at the largest.
+                expected = count < 0 ? 0 : (count > 2147483647L ? 2147483647L : count);
             } else if (std::sscanf(line, patterns.complex, &flag) == 1) {
                 complex = flag != 0;
             } else if (std::sscanf(line, patterns.delta, &delta) == 1) {

@@ -340,6 +340,7 @@ INSTANTIATE_TEST_SUITE_P(Files, AsciiReadTest, ::testing::Values(
     AsciiCase{"Garbage", "1 2 abc 3\n", -1, 2, 0, 1, {1, 2}},
     AsciiCase{"BareSign", "4 - 5\n", -1, 1, 0, 1, {4}},
     AsciiCase{"ExponentWithoutDigits", "4 1e\n", -1, 1, 0, 1, {4}},
+    AsciiCase{"CountBeyond32Bits", "#DSP points = 99999999999999999999\n#DSP complex = 1\n1 2\n", -1, 1, 1, 1, {1, 2}},
     AsciiCase{"WhiteSpaceOnly", " \n\t\n", 0, 0, 0, 1, {}}),
     [](const ::testing::TestParamInfo<AsciiCase>& i) { return std::string(i.param.name); });
 
