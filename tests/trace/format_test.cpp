@@ -53,6 +53,7 @@ TYPED_TEST(TraceFormatTest, UnknownCodesEmptyRangesAndNullDataWriteNothing) {
         api::format_buffer(code, z.data(), dst.data(), 1, 1);
         api::format_buffer(code, z.data(), dst.data(), 2, 0);
         api::format_buffer(code, none, dst.data(), 0, 2);
+        api::format_buffer(code, z.data() + 2, dst.data() + 1, -1, 1);  // a negative start: nothing
     }
     api::unwrap_phase(z.data(), 2, 1, dst.data(), 1);
     api::unwrap_phase(z.data(), -1, 2, dst.data(), 1);
