@@ -1,6 +1,6 @@
 // One step of averaging: the accumulator folds in the next record by mean,
 // extreme, harmonic or geometric mean, or a decimating hold.
-#include "transform/spectrum.hpp"
+#include "transform/handle_fft.hpp"
 
 #include "elementwise/arith.hpp"
 #include "elementwise/binary.hpp"

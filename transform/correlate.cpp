@@ -1,5 +1,5 @@
 // Correlation of two records through the FFT of the power of two that holds b.
-#include "transform/spectrum.hpp"
+#include "transform/handle_fft.hpp"
 
 #include "elementwise/arith.hpp"
 #include "elementwise/binary.hpp"

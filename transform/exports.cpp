@@ -2,7 +2,7 @@
 // header order.
 #include "transform/dft.hpp"
 #include "transform/fft.hpp"
-#include "transform/spectrum.hpp"
+#include "transform/handle_fft.hpp"
 
 extern "C" {
 

@@ -2,7 +2,7 @@
 // moments, and the status codes.
 #include <cmath>
 
-#include "support/api_spectrum.hpp"
+#include "support/api_handle.hpp"
 #include "support/vectors.hpp"
 
 using namespace zt;

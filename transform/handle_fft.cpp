@@ -1,6 +1,6 @@
 // One-call spectra: select, window, scale, pad and transform a record, and the
 // way back from a spectrum to a record.
-#include "transform/spectrum.hpp"
+#include "transform/handle_fft.hpp"
 
 #include "elementwise/arith.hpp"
 #include "elementwise/rearrange.hpp"

@@ -7,7 +7,7 @@
 #include "bench/fft_peer.hpp"
 #include "bench/support.hpp"
 #include "transform/fft.hpp"
-#include "transform/spectrum.hpp"
+#include "transform/handle_fft.hpp"
 #include "window/window.hpp"
 
 #include <cstring>

@@ -98,7 +98,7 @@ int cmd_spectrum(int argc, char **argv) {
     int named = 0, i, kind, points = 0, two_sided = 0, want = 5, mode = AVG_MEAN, status = 0, count = 0, r;
     int width = 0, found, guard;
     double limit = 0, gain = 1, enbw = 1, first = 0;
-    dsp_vector *recs, spec, acc, scratch;
+    dsp_vector *recs, bins, acc, scratch;
     peak peaks[64];
     FILE *f;
     char label[64];
@@ -125,12 +125,12 @@ int cmd_spectrum(int argc, char **argv) {
     if (dsp_window_from_str(window, &kind) != 0) return fail(2, "spectrum: unknown window '%s'", window);
     if (parse_avg(avg, &mode, &limit)) return 2;
     if ((status = read_all(names[0], &recs, &count)) != 0) return status;
-    dsp_init(&spec);
+    dsp_init(&bins);
     dsp_init(&acc);
     dsp_init(&scratch);
     for (r = 0; r < count && status == 0; ++r) {
-        if (dsph_fft(&recs[r], &spec, points, 1.0, kind, two_sided ? FFT_TWO_SIDED : 0) != 0 ||
-            dsph_avg(&spec, &acc, &scratch, mode | AVG_MAGSQ, r + 1, 0, -1.0, limit) != 0)
+        if (dsph_fft(&recs[r], &bins, points, 1.0, kind, two_sided ? FFT_TWO_SIDED : 0) != 0 ||
+            dsph_avg(&bins, &acc, &scratch, mode | AVG_MAGSQ, r + 1, 0, -1.0, limit) != 0)
             status = fail(1, "%s: record %d (%d points) cannot be transformed", names[0], r + 1, recs[r].points);
         else if (r == 0)
             width = points > 0 && points < recs[0].points ? points : recs[0].points;
@@ -162,7 +162,7 @@ int cmd_spectrum(int argc, char **argv) {
         }
     }
     free_all(recs, count);
-    dsp_destroy(&spec);
+    dsp_destroy(&bins);
     dsp_destroy(&acc);
     dsp_destroy(&scratch);
     return status == 0 ? finish_stdout() : status;
