@@ -3,7 +3,7 @@
 // closed form.
 #include <limits>
 
-#include "support/api_poly.hpp"
+#include "support/api_stats.hpp"
 #include "support/vectors.hpp"
 
 using namespace zt;

@@ -1,5 +1,6 @@
-// Test-side overloads of the descriptive statistics, picked by record type,
-// so one typed test reaches both C twins through the real interface.
+// Test-side overloads of the statistics, histogram, peak, polynomial and
+// regression entry points, picked by record type, so one typed test reaches
+// both C twins through the real interface.
 #pragma once
 #include "support/api_core.hpp"
 
@@ -19,4 +20,14 @@ ZT_TWIN(skew, dsps_skew, dspfs_skew)
 ZT_TWIN(excess, dsps_excess, dspfs_excess)
 ZT_TWIN(gmean, dsps_gmean, dspfs_gmean)
 ZT_TWIN(hmean, dsps_hmean, dspfs_hmean)
+ZT_TWIN(hist, dsps_hist, dspfs_hist)
+ZT_TWIN(peak, dsps_peak, dspfs_peak)
+ZT_TWIN(peval, dsps_peval, dspfs_peval)
+ZT_TWIN(psolve, dsps_psolve, dspfs_psolve)
+ZT_TWIN(pcsolve, dsps_pcsolve, dspfs_pcsolve)
+ZT_TWIN(proots, dsps_proots, dspfs_proots)
+ZT_TWIN(proots_in_place, dspi_proots, dspfi_proots)
+ZT_TWIN(pztoc, dspi_pztoc, dspfi_pztoc)
+ZT_TWIN(lin_regres, dsps_lin_regres, dspfs_lin_regres)
+ZT_TWIN(lin_regres2, dsps_lin_regres2, dspfs_lin_regres2)
 }  // namespace api
