@@ -1,11 +1,10 @@
+// The matrix kernels of both flavours: inverses and products against long
+// double references, the pivot threshold, singular matrices left alone,
+// aliasing and the size rules.
 #include <gtest/gtest.h>
 
 #include <cfloat>
-#include <cmath>
-#include <cstring>
 #include <limits>
-#include <random>
-#include <vector>
 
 #include "support/api_netcal.hpp"
 #include "support/netcal_ref.hpp"
@@ -18,14 +17,8 @@ constexpr double kThreshold = 2.220446049250313e-12;
 using Doubles = std::vector<double>;
 
 template <class K> Doubles random_matrix(int rows, int cols, unsigned seed) {
-    std::mt19937 gen(seed);
-    std::uniform_real_distribution<double> d(-1.0, 1.0);
-    Doubles a(static_cast<std::size_t>(rows) * cols * K::width);
-    for (double& x : a) x = d(gen);
-    return a;
+    return random_scalars<double>(static_cast<std::size_t>(rows) * cols * K::width, seed);
 }
-// Element i of a matrix of either flavour as a complex number, and setting it.
-template <class K> LC element(const Doubles& a, std::size_t i) { return K::width == 2 ? lc(a, i) : LC(a[i], 0); }
 template <class K> void set_element(Doubles& a, std::size_t i, double re, double im = 0) {
     a[K::width * i] = re;
     if (K::width == 2) a[2 * i + 1] = im;
@@ -59,33 +52,24 @@ TYPED_TEST(MatrixKernelTest, RandomInverseTimesMatrixIsIdentity) {
     }
 }
 
-// Pivots down to the threshold are used; below it the matrix is singular. A
-// non-number pivot is not singular.
+// Pivots down to the threshold are used, in magnitude (the imaginary part of
+// a complex one counts); below it the matrix is singular. The last of three
+// pivots, reached after an interchange. A non-number pivot is not singular.
 TYPED_TEST(MatrixKernelTest, PivotThresholdIsInclusive) {
     using K = TypeParam;
-    const double below = std::nextafter(kThreshold, 0.0);
     for (int imaginary = 0; imaginary < K::width; ++imaginary) {
-        Doubles a(K::width, 0.0), b = a;
-        a[imaginary] = kThreshold;
-        b[imaginary] = below;
-        const Doubles keep = b;
-        ASSERT_EQ(K::invert(a.data(), 1), 1);
-        EXPECT_EQ(element<K>(a, 0), imaginary ? LC(0, -1 / kThreshold) : LC(1 / kThreshold, 0));
-        EXPECT_EQ(K::invert(b.data(), 1), 0);
-        EXPECT_TRUE(same_bits(b, keep));
-    }
-    // The last of three pivots, reached after an interchange.
-    for (const double d : {kThreshold, below}) {
-        Doubles a(9 * K::width, 0.0), want = a;
-        set_element<K>(a, 0, 2);
-        set_element<K>(a, 5, d);
-        set_element<K>(a, 7, 4);
-        const Doubles keep = a;
-        set_element<K>(want, 0, 0.5);
-        set_element<K>(want, 5, 0.25);
-        set_element<K>(want, 7, 1 / d);
-        EXPECT_EQ(K::invert(a.data(), 3), d == kThreshold ? 1 : 0);
-        EXPECT_TRUE(d == kThreshold ? a == want : same_bits(a, keep));
+        for (const double d : {kThreshold, std::nextafter(kThreshold, 0.0)}) {
+            Doubles a(9 * K::width, 0.0), want = a;
+            set_element<K>(a, 0, 2);
+            set_element<K>(a, 5, imaginary ? 0 : d, imaginary ? d : 0);
+            set_element<K>(a, 7, 4);
+            const Doubles keep = a;
+            set_element<K>(want, 0, 0.5);
+            set_element<K>(want, 5, 0.25);
+            set_element<K>(want, 7, imaginary ? 0 : 1 / d, imaginary ? -1 / d : 0);
+            EXPECT_EQ(K::invert(a.data(), 3), d == kThreshold ? 1 : 0);
+            EXPECT_TRUE(d == kThreshold ? a == want : same_bits(a, keep)) << imaginary;
+        }
     }
     Doubles nan(K::width, std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(K::invert(nan.data(), 1), 1);
@@ -99,7 +83,7 @@ TYPED_TEST(MatrixKernelTest, SingularMatrixIsLeftBitForBit) {
         for (int kind = 0; kind < 3; ++kind) {
             Doubles a = random_matrix<K>(n, n, 500 + 10 * n + kind);
             for (int c = 0; c < n; ++c) {
-                const LC z = element<K>(a, c) * LC(kind == 0 ? 1 : 0.5, 0);
+                const LC z = element(a, c, K::width) * LC(kind == 0 ? 1 : 0.5, 0);
                 if (kind == 1) set_element<K>(a, c * n + n / 2, 0.0, 0.0);
                 else set_element<K>(a, (kind == 0 ? n - 1 : 1) * n + c, double(z.real()), double(z.imag()));
             }
@@ -135,7 +119,7 @@ TYPED_TEST(MatrixKernelTest, ProductAgainstTripleLoop) {
         ASSERT_EQ(K::mult(a.data(), b.data(), c.data(), m, n, p), refused ? -1 : m * p);
         const LMat want = product(to_lmat(a, K::width), to_lmat(b, K::width), m, n, p);
         for (std::size_t i = 0; i < want.size() && !refused; ++i)
-            ASSERT_LE(std::abs(element<K>(c, i) - want[i]), 4 * (n + 1) * DBL_EPSILON);
+            ASSERT_LE(std::abs(element(c, i, K::width) - want[i]), 4 * (n + 1) * DBL_EPSILON);
         for (std::size_t i = refused ? 0 : c.size() - 1; i < c.size(); ++i) ASSERT_EQ(c[i], 77.0);
     }
 }

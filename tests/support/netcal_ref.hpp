@@ -2,26 +2,22 @@
 // double arithmetic, textbook formulas, random complex data.
 #pragma once
 
-#include <cmath>
-#include <complex>
-#include <random>
-#include <vector>
+#include "support/vectors.hpp"
 
 namespace zt {
 
 using LC = std::complex<long double>;
 
-// Elements of a matrix or points of a trace as interleaved doubles, converted.
+// Points of a trace as interleaved doubles, converted; element i of a matrix
+// of width 2 (complex) or 1 (real) doubles per element.
 inline LC lc(const std::vector<double>& v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
-inline LC lc(const double* v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
+inline LC element(const std::vector<double>& a, std::size_t i, int width) { return width == 2 ? lc(a, i) : LC(a[i], 0); }
 
 // n complex points (2n doubles), each part uniform in [lo, hi) plus centre on the real part.
 inline std::vector<double> random_points(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0,
                                          double centre = 0.0) {
-    std::mt19937 gen(seed);
-    std::uniform_real_distribution<double> d(lo, hi);
-    std::vector<double> v(2 * n);
-    for (std::size_t i = 0; i < v.size(); ++i) v[i] = d(gen) + (i % 2 == 0 ? centre : 0.0);
+    std::vector<double> v = random_scalars<double>(2 * n, seed, lo, hi);
+    for (std::size_t i = 0; i < v.size(); i += 2) v[i] += centre;
     return v;
 }
 
@@ -30,7 +26,7 @@ using LMat = std::vector<LC>;
 
 inline LMat to_lmat(const std::vector<double>& a, int width) {
     LMat m(a.size() / width);
-    for (std::size_t i = 0; i < m.size(); ++i) m[i] = width == 2 ? lc(a, i) : LC(a[i], 0);
+    for (std::size_t i = 0; i < m.size(); ++i) m[i] = element(a, i, width);
     return m;
 }
 
