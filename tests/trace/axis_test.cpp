@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "support/api_trace.hpp"
 #include "support/trace_ref.hpp"
 #include "support/vectors.hpp"
@@ -7,19 +9,25 @@ using namespace zt;
 template <class T> class TraceAxisTest : public ::testing::Test {};
 TYPED_TEST_SUITE(TraceAxisTest, Precisions);
 
-TYPED_TEST(TraceAxisTest, LinearAxisCountsAndShortAxes) {
+// Short axes, counts and refusals; the log axis needs positive ends and points.
+TYPED_TEST(TraceAxisTest, ShortAxesCountsAndRefusals) {
     using T = TypeParam;
-    std::vector<T> d(4, T(-99));
-    EXPECT_EQ(api::expand_linear(d.data(), 0, T(1), T(2)), 0);
-    EXPECT_EQ(api::expand_linear(d.data(), -3, T(1), T(2)), -3);
-    EXPECT_EQ(d, std::vector<T>(4, T(-99)));
-    EXPECT_EQ(api::expand_linear(d.data(), 1, T(1), T(2)), 1);
-    EXPECT_EQ(d, (std::vector<T>{1, -99, -99, -99}));
-    EXPECT_EQ(api::expand_linear(d.data(), 2, T(5), T(3)), 1);
-    EXPECT_EQ(d, (std::vector<T>{5, 3, -99, -99}));
-    EXPECT_EQ(api::expand_linear(d.data(), 4, T(-1), T(2)), 3);
-    EXPECT_EQ(d, (std::vector<T>{-1, 0, 1, 2}));
+    const T u = -99, nan = std::numeric_limits<T>::quiet_NaN();
+    struct Case { bool log; int n; T first, last; int count; std::vector<T> after; };
+    const Case cases[] = {
+        {false, 0, 1, 2, 0, {u, u, u}}, {false, -3, 1, 2, -3, {u, u, u}}, {false, 1, 1, 2, 1, {1, u, u}},
+        {false, 2, 5, 3, 1, {5, 3, u}}, {false, 3, -1, 2, 2, {-1, T(0.5), 2}}, {true, 3, 0, 10, 0, {u, u, u}},
+        {true, 3, 10, -1, 0, {u, u, u}}, {true, 3, nan, 10, 0, {u, u, u}}, {true, 0, 1, 10, 0, {u, u, u}},
+        {true, 1, 2, 10, 0, {2, u, u}}, {true, 2, 2, 10, 0, {2, 10, u}},
+    };
+    for (const Case& c : cases) {
+        std::vector<T> d(3, u);
+        if (c.log) api::expand_log(d.data(), c.n, c.first, c.last);
+        else EXPECT_EQ(api::expand_linear(d.data(), c.n, c.first, c.last), c.count);
+        EXPECT_EQ(d, c.after) << c.log << " " << c.n;
+    }
     EXPECT_EQ(api::expand_linear(static_cast<T*>(nullptr), 4, T(0), T(1)), 0);
+    api::expand_log(static_cast<T*>(nullptr), 3, T(1), T(10));
 }
 
 // Relative error of the log axis' 10^x grows with |x| (here up to 10); its
@@ -44,19 +52,4 @@ TYPED_TEST(TraceAxisTest, AxesMatchReferenceWithExactEnds) {
     std::vector<T> dec(5);
     api::expand_log(dec.data(), 5, T(1e4), T(1));
     EXPECT_TRUE(near_all(dec, std::vector<double>{1e4, 1e3, 1e2, 1e1, 1}, tol<T>(40)));
-}
-
-TYPED_TEST(TraceAxisTest, LogAxisNeedsPositiveEndsAndPoints) {
-    using T = TypeParam;
-    std::vector<T> d(3, T(-99));
-    api::expand_log(d.data(), 3, T(0), T(10));
-    api::expand_log(d.data(), 3, T(10), T(-1));
-    api::expand_log(d.data(), 3, T(std::nan("")), T(10));
-    api::expand_log(d.data(), 0, T(1), T(10));
-    api::expand_log(static_cast<T*>(nullptr), 3, T(1), T(10));
-    EXPECT_EQ(d, std::vector<T>(3, T(-99)));
-    api::expand_log(d.data(), 1, T(2), T(10));
-    EXPECT_EQ(d, (std::vector<T>{2, -99, -99}));
-    api::expand_log(d.data(), 2, T(2), T(10));
-    EXPECT_EQ(d, (std::vector<T>{2, 10, -99}));
 }
