@@ -15,18 +15,14 @@ TYPED_TEST(ConvertTest, MatchesReferenceOnRandomVectors) {
     using T = TypeParam;
     const auto identity = [](LD x) { return x; };
     check_all<T>({
-        {"rtoc", [](Vec<T>* v) { return api::rtoc(v); }, nullptr, [](LD x) { return CL(x, 0); }, [](CL z) { return z; }, nullptr},
-        {"rtop", [](Vec<T>* v) { return api::rtop(v); }, nullptr, ref::polar, [](CL z) { return CL(std::abs(z), std::arg(z)); },
-         nullptr, -3, 3},
-        {"ptor", [](Vec<T>* v) { return api::ptor(v); }, identity, nullptr, [](CL z) { return std::polar(z.real(), z.imag()); },
-         nullptr, -4, 4},
-        {"real", [](Vec<T>* v) { return api::real(v); }, identity, nullptr, nullptr, [](CL z) { return z.real(); }},
-        {"imag", [](Vec<T>* v) { return api::imag(v); }, [](LD) { return 0.0L; }, nullptr, nullptr, [](CL z) { return z.imag(); }},
-        {"mag", [](Vec<T>* v) { return api::mag(v); }, [](LD x) { return std::fabs(x); }, nullptr, nullptr,
-         [](CL z) { return std::abs(z); }, -1e4, 1e4},
-        {"magsq", [](Vec<T>* v) { return api::magsq(v); }, ref::square<T>, nullptr, nullptr, [](CL z) { return std::norm(z); },
-         -1e4, 1e4},
-        {"phase", [](Vec<T>* v) { return api::phase(v); }, ref::phase, nullptr, nullptr, [](CL z) { return std::arg(z); }},
+        {"rtoc", api::rtoc, nullptr, [](LD x) { return CL(x, 0); }, [](CL z) { return z; }, nullptr},
+        {"rtop", api::rtop, nullptr, ref::polar, [](CL z) { return CL(std::abs(z), std::arg(z)); }, nullptr, -3, 3},
+        {"ptor", api::ptor, identity, nullptr, [](CL z) { return std::polar(z.real(), z.imag()); }, nullptr, -4, 4},
+        {"real", api::real, identity, nullptr, nullptr, [](CL z) { return z.real(); }},
+        {"imag", api::imag, [](LD) { return 0.0L; }, nullptr, nullptr, [](CL z) { return z.imag(); }},
+        {"mag", api::mag, [](LD x) { return std::fabs(x); }, nullptr, nullptr, [](CL z) { return std::abs(z); }, -1e4, 1e4},
+        {"magsq", api::magsq, ref::square<T>, nullptr, nullptr, [](CL z) { return std::norm(z); }, -1e4, 1e4},
+        {"phase", api::phase, ref::phase, nullptr, nullptr, [](CL z) { return std::arg(z); }},
     });
 }
 

@@ -82,4 +82,14 @@ template <class T, class U>
     return ::testing::AssertionSuccess();
 }
 
+// Samples within rel * max(1, |want|) of the reference, measured as complex
+// numbers (a pair is judged by its magnitude; a NaN never passes).
+inline ::testing::AssertionResult near_samples(const std::vector<Cx>& got, const std::vector<Cx>& want, double rel) {
+    if (got.size() != want.size()) return ::testing::AssertionFailure() << "points " << got.size() << " != " << want.size();
+    for (std::size_t k = 0; k < got.size(); ++k)
+        if (!(std::abs(got[k] - want[k]) <= rel * std::fmax(1.0L, std::abs(want[k]))))
+            return ::testing::AssertionFailure() << "sample " << k << ": " << got[k] << " != " << want[k];
+    return ::testing::AssertionSuccess();
+}
+
 }  // namespace zt
