@@ -23,12 +23,12 @@ struct DD {
     V hi, lo;
 };
 // a + b exactly, for |a| >= |b| or a = 0.
-inline DD fast_two_sum(V a, V b) noexcept {
+ZF_VINLINE DD fast_two_sum(V a, V b) noexcept {
     const V s = add(a, b);
     return {s, sub(b, sub(s, a))};
 }
 
-template <std::size_t N> inline V horner(V x, const double (&c)[N]) noexcept {
+template <std::size_t N> ZF_VINLINE V horner(V x, const double (&c)[N]) noexcept {
     V p = set1(c[N - 1]);
     for (std::size_t k = N - 1; k-- > 0;) p = fma(p, x, set1(c[k]));
     return p;
@@ -87,7 +87,7 @@ struct LogTables {
 };
 
 // The natural or decimal logarithm of positive normal finite lanes.
-template <class T> inline V log_core(V x, const LogTables& t) noexcept {
+template <class T> ZF_VINLINE V log_core(V x, const LogTables& t) noexcept {
     V k, m;
     split(x, k, m);
     const I i = top4(m);
@@ -137,34 +137,40 @@ struct AtanTables {
 };
 
 // atan2(y, x) for finite lanes whose larger part lies within 2^+-500, not both 0.
-template <class T> inline V atan2_core(V y, V x, const AtanTables& tab) noexcept {
+// The float twin needs no low parts: its sums in double are 2^-29 ulp off at most.
+template <class T> ZF_VINLINE V atan2_core(V y, V x, const AtanTables& tab) noexcept {
+    constexpr bool twin = sizeof(T) == 4;
     const V ax = abs(x), ay = abs(y);
     const M swap = gt(ay, ax), neg = lt(x, set1(0.0));
     const V num = min(ax, ay), den = max(ax, ay);
     const V inv = recip(den);
     const V t = mul(num, inv);
-    const V tl = mul(fnma(t, den, num), inv);
     const V jd = min(round(mul(t, set1(16.0))), set1(15.0));
     const V tj = mul(jd, set1(0.0625));
     const V nh = sub(t, tj);   // exact
     const V dh = fma(t, tj, set1(1.0));
-    const V dl = fma(tl, tj, fma(t, tj, sub(set1(1.0), dh)));
     const V inv2 = recip(dh);
     const V d = mul(nh, inv2);
-    const V dlo = mul(fnma(d, dl, add(fnma(d, dh, nh), tl)), inv2);
     const V z = mul(d, d);
-    const V poly = sizeof(T) == 4 ? horner(z, kAtanAf) : horner(z, kAtanA);
     const I j = small_int(jd);
-    const DD a = fast_two_sum(tab.hi(j), d);
-    const V alo = add(a.lo, add(tab.lo(j), fma(mul(d, z), poly, dlo)));
     // C + s atan t, s = -1 when exactly one of swap and neg holds.
     const V zero = set1(0.0), minus = set1(-0.0);
     const V c_hi = select(swap, set1(kPio2Hi), select(neg, set1(kPiHi), zero));
-    const V c_lo = select(swap, set1(kPio2Lo), select(neg, set1(kPiLo), zero));
     const V flip = select(swap, select(neg, zero, minus), select(neg, minus, zero));
-    const DD s = fast_two_sum(c_hi, xor_(a.hi, flip));
-    const V out = add(s.hi, add(s.lo, add(c_lo, xor_(alo, flip))));
-    return xor_(out, sign_of(y));
+    if constexpr (twin) {
+        const V at = add(tab.hi(j), fma(mul(d, z), horner(z, kAtanAf), d));
+        return xor_(add(c_hi, xor_(at, flip)), sign_of(y));
+    } else {
+        const V tl = mul(fnma(t, den, num), inv);
+        const V dl = fma(tl, tj, fma(t, tj, sub(set1(1.0), dh)));
+        const V dlo = mul(fnma(d, dl, add(fnma(d, dh, nh), tl)), inv2);
+        const DD a = fast_two_sum(tab.hi(j), d);
+        const V alo = add(a.lo, add(tab.lo(j), fma(mul(d, z), horner(z, kAtanA), dlo)));
+        const V c_lo = select(swap, set1(kPio2Lo), select(neg, set1(kPiLo), zero));
+        const DD s = fast_two_sum(c_hi, xor_(a.hi, flip));
+        const V out = add(s.hi, add(s.lo, add(c_lo, xor_(alo, flip))));
+        return xor_(out, sign_of(y));
+    }
 }
 
 // ------------------------------------------------------------- exponential
@@ -180,7 +186,7 @@ constexpr double kExpE[10] = {0x1.5555555555556p-3, 0x1.5555555555555p-5, 0x1.11
 constexpr double kExpEf[5] = {0x1.5555555555555p-3, 0x1.5555192d5f5dep-5, 0x1.1110f656b73fcp-7,
                               0x1.6d11093a17fd8p-10, 0x1.a0f86c84449cdp-13};
 
-template <class T> inline V exp_core(V x) noexcept {
+template <class T> ZF_VINLINE V exp_core(V x) noexcept {
     x = max(set1(-746.0), x);   // e^-746 rounds to 0; NaN passes (max returns its second operand)
     const V k = round(mul(x, set1(kLog2e)));
     const DD r = fast_two_sum(fnma(k, set1(kLn2ExpHi), x), mul(k, set1(-kLn2ExpLo)));   // first term exact
@@ -191,15 +197,21 @@ template <class T> inline V exp_core(V x) noexcept {
 }
 
 // ---------------------------------------------------------------- hypotenuse
-// hypot = sqrt(s) with s = a^2 + b^2 in double-double, the root corrected by
-// (s - r^2) / (2r), for lanes whose larger part lies within 2^+-500.
-inline V hypot_core(V a, V b) noexcept {
-    const V hi = max(abs(a), abs(b)), lo = min(abs(a), abs(b));
-    const V h2 = mul(hi, hi), l2 = mul(lo, lo);
-    const DD s = fast_two_sum(h2, l2);
-    const V slo = add(s.lo, add(fms(hi, hi, h2), fms(lo, lo, l2)));
-    const V r = sqrt(s.hi);
-    return fma(add(fnma(r, r, s.hi), slo), mul(set1(0.5), recip_approx(r)), r);
+// hypot = sqrt(s), s = a^2 + b^2. Double: s is formed in double-double and
+// rounded once, so sqrt(s) is within half an ulp of the root of the rounded
+// sum, which is itself within half an ulp (relative 2^-54) of hypot: the result
+// is at most 1 ulp off, for lanes whose larger part lies within 2^+-500. Float
+// (parts widened): the square b^2 is exact, s and its root each rounded once in
+// double, then to float: any finite pair.
+template <class T> ZF_VINLINE V hypot_core(V a, V b) noexcept {
+    if constexpr (sizeof(T) == 4) {
+        return sqrt(fma(a, a, mul(b, b)));
+    } else {
+        const V hi = max(abs(a), abs(b)), lo = min(abs(a), abs(b));
+        const V h2 = mul(hi, hi), l2 = mul(lo, lo);
+        const DD s = fast_two_sum(h2, l2);
+        return sqrt(add(s.hi, add(s.lo, add(fms(hi, hi, h2), fms(lo, lo, l2)))));
+    }
 }
 
 // ------------------------------------------------------------ sine, cosine
@@ -219,7 +231,7 @@ constexpr double kSixthHi = -1.0 / 6, kSixthLo = -9.2518585385429707e-18;
 struct SinCos {
     V s, c;
 };
-inline SinCos sincos_core(V x) noexcept {
+ZF_VINLINE SinCos sincos_core(V x) noexcept {
     const V n = round(mul(x, set1(kTwoOverPi)));
     const V r1 = fnma(n, set1(kPio2Hi), x);   // exact
     const V p = mul(n, set1(kPio2_2)), pe = fms(n, set1(kPio2_2), p);
@@ -311,11 +323,11 @@ template <class T> void exp_block(T* d, std::size_t n) noexcept {
     each(d, n, 0.0, [&](V x) { return select(gt(x, limit), huge, exp_core<T>(x)); });
 }
 
-// Pairs to one value each, in place allowed: vector lanes where safe(re, im)
-// holds, the others by scalar(re, im).
+// Pairs to one value each, in place allowed: vector lanes whose larger part
+// lies in [least, 2^500), the others by scalar(re, im).
 template <class T, class Core, class Scalar>
-inline void pack_block(const T* in, T* out, std::size_t n, Core core, Scalar scalar) noexcept {
-    const V lo = set1(0x1p-500), hi = set1(0x1p500);
+inline void pack_block(const T* in, T* out, std::size_t n, double least, Core core, Scalar scalar) noexcept {
+    const V lo = set1(least), hi = set1(0x1p500);
     for (std::size_t k = 0; k < n; k += W) {
         const std::size_t left = n - k;
         V re, im;
@@ -338,12 +350,13 @@ inline void pack_block(const T* in, T* out, std::size_t n, Core core, Scalar sca
 
 template <class T> void phase_block(const T* in, T* out, std::size_t n) noexcept {
     const AtanTables at;
-    pack_block(in, out, n, [&](V re, V im) { return atan2_core<T>(im, re, at); },
+    pack_block(in, out, n, 0x1p-500, [&](V re, V im) { return atan2_core<T>(im, re, at); },
                [](T re, T im) { return (re == T(0) && im == T(0)) ? T(0) : std::atan2(im, re); });
 }
 
 template <class T> void mag_block(const T* in, T* out, std::size_t n) noexcept {
-    pack_block(in, out, n, [](V re, V im) { return hypot_core(re, im); },
+    // float pairs down to (0, 0) stay in the vector lanes
+    pack_block(in, out, n, sizeof(T) == 4 ? 0.0 : 0x1p-500, [](V re, V im) { return hypot_core<T>(re, im); },
                [](T re, T im) { return std::hypot(re, im); });
 }
 

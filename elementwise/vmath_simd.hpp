@@ -9,6 +9,14 @@
 
 #include <cstdint>
 
+// The kernels are built from many small functions that must all be inlined
+// into the block loops (a call passes vectors through memory).
+#if defined(_MSC_VER) && !defined(__clang__)
+#define ZF_VINLINE __forceinline
+#else
+#define ZF_VINLINE inline __attribute__((always_inline))
+#endif
+
 namespace zf {
 namespace {
 
@@ -43,8 +51,7 @@ inline unsigned bits(M m) noexcept { return m; }
 inline V select(M m, V a, V b) noexcept { return _mm512_mask_blend_pd(m, b, a); }   // m ? a : b
 inline V round(V a) noexcept { return _mm512_roundscale_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
 inline V floor(V a) noexcept { return _mm512_roundscale_pd(a, _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC); }
-// About 14 bits of 1/a, and 1/a to within an ulp (two Newton steps).
-inline V recip_approx(V a) noexcept { return _mm512_rcp14_pd(a); }
+// 1/a to within an ulp (about 14 bits, then two Newton steps).
 inline V recip(V a) noexcept {
     V y = _mm512_rcp14_pd(a);
     y = fma(y, fnma(a, y, set1(1.0)), y);
@@ -65,7 +72,7 @@ inline I small_int(V a) noexcept { return _mm512_castpd_si512(add(a, set1(0x1p52
 struct Table16 {
     V lo, hi;
     explicit Table16(const double* t) noexcept : lo(_mm512_loadu_pd(t)), hi(_mm512_loadu_pd(t + 8)) {}
-    V operator()(I i) const noexcept { return _mm512_permutex2var_pd(lo, i, hi); }
+    ZF_VINLINE V operator()(I i) const noexcept { return _mm512_permutex2var_pd(lo, i, hi); }
 };
 
 inline V load(const double* p) noexcept { return _mm512_loadu_pd(p); }
@@ -115,7 +122,6 @@ inline unsigned bits(M m) noexcept { return static_cast<unsigned>(_mm256_movemas
 inline V select(M m, V a, V b) noexcept { return _mm256_blendv_pd(b, a, m); }
 inline V round(V a) noexcept { return _mm256_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
 inline V floor(V a) noexcept { return _mm256_floor_pd(a); }
-inline V recip_approx(V a) noexcept { return _mm256_div_pd(set1(1.0), a); }
 inline V recip(V a) noexcept { return _mm256_div_pd(set1(1.0), a); }
 inline void split(V a, V& k, V& m) noexcept {
     const __m256i b = _mm256_castpd_si256(a);
@@ -131,7 +137,9 @@ inline V pow2(V k) noexcept {   // 2^k for integral k in [-1022, 1023]
     const __m256i b = _mm256_castpd_si256(add(k, set1(0x1p52 + 1023)));
     return _mm256_castsi256_pd(_mm256_slli_epi64(b, 52));
 }
+// In two steps when some k leaves [-1022, 1023] (subnormal or overflowing results).
 inline V scale2(V p, V k) noexcept {
+    if (!bits(or_(lt(k, set1(-1022.0)), gt(k, set1(1023.0))))) return mul(p, pow2(k));
     const V h = round(mul(k, set1(0.5)));
     return mul(mul(p, pow2(h)), pow2(sub(k, h)));
 }
@@ -142,7 +150,7 @@ inline I small_int(V a) noexcept {
 struct Table16 {
     const double* t;
     explicit Table16(const double* p) noexcept : t(p) {}
-    V operator()(I i) const noexcept { return _mm256_i64gather_pd(t, i, 8); }
+    ZF_VINLINE V operator()(I i) const noexcept { return _mm256_i64gather_pd(t, i, 8); }
 };
 
 inline V load(const double* p) noexcept { return _mm256_loadu_pd(p); }

@@ -32,7 +32,8 @@ template <class T> std::vector<T> inputs(std::mt19937_64& gen, double lo, double
     const T tiny = Traits<T>::tiny, huge = Traits<T>::huge, lim = Traits<T>::exp_limit;
     std::vector<T> x = {T(0), T(-0.0), L::denorm_min(), tiny / 4, tiny, std::nextafter(tiny, T(0)), T(1),
                         std::nextafter(T(1), T(2)), std::nextafter(T(1), T(0)), lim, std::nextafter(lim, huge),
-                        huge, L::max(), L::infinity(), -L::infinity(), L::quiet_NaN(), T(-745.5), T(-103.5)};
+                        huge, L::max(), L::infinity(), -L::infinity(), L::quiet_NaN(), T(-745.5), T(-103.5),
+                        -L::infinity(), T(0)};   // a pair on the negative axis, off the vector lanes
     std::uniform_real_distribution<double> e(lo, hi);
     while (x.size() < 3001) x.push_back(static_cast<T>(std::exp2(e(gen)) * (signs && (gen() & 1) ? -1 : 1)));
     return x;
