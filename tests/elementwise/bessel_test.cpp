@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include "support/api_arith.hpp"
 #include "support/arith_ref.hpp"
 
@@ -35,13 +33,12 @@ TYPED_TEST(SpecialTest, GuardsAndZeroArguments) {
 
 TYPED_TEST(SpecialTest, ReservedEntryPointsChangeNothing) {
     using T = TypeParam;
+    const std::vector<T> in{T(0.5), T(-1), T(2), T(3)};
     int (*reserved[])(Vec<T>*) = {api::erf, api::erfc, api::gamma, api::lgamma};
     for (auto f : reserved) {
         for (bool complex : {false, true}) {
-            const std::vector<T> in{T(0.5), T(-1), T(2), T(3)};
             Owned<T> v(in, complex);
-            EXPECT_EQ(f(v.get()), -1);
-            EXPECT_EQ(v.scalars(), in);
+            EXPECT_EQ(std::tuple(f(v.get()), v.scalars()), std::tuple(-1, in));
         }
         EXPECT_EQ(f(nullptr), -1);
     }
