@@ -32,10 +32,8 @@ TYPED_TEST(ArithTest, MatchesReferenceAndGuards) {
     // The float guard is the float nearest 1e15, not 1e15 itself.
     EXPECT_EQ(static_cast<double>(huge), sizeof(T) == 4 ? 999999986991104.0 : 1e100);
     check_hand<T>({
-        {api::recip, {0, T(-0.0), 4}, false, {huge, huge, 0.25}},
-        {api::recip, {0, 0, huge * 4, 0}, true, {0, 0, 4, 0}, 16},
-        {api::square, {huge, -huge * 2, -3}, false, {huge * huge, huge, 9}},
-        {api::square, {huge * 2, 0}, true, {huge * huge, 0}},
+        {api::recip, {0, T(-0.0), 4}, false, {huge, huge, 0.25}}, {api::recip, {0, 0, huge * 4, 0}, true, {0, 0, 4, 0}, 16},
+        {api::square, {huge, -huge * 2, -3}, false, {huge * huge, huge, 9}}, {api::square, {huge * 2, 0}, true, {huge * huge, 0}},
         {api::sqrt, {0, 0, -4, 0}, true, {0, 0, 0, 2}, 4},
     });
     Owned<T> c({T(0), T(0)}, true);  // (0, 0) gives (0, -0)
@@ -65,7 +63,7 @@ TYPED_TEST(ArithTest, LimitClipsBothPartsWithBoundsInEitherOrder) {
 
 // A real record wrapping the caller's array becomes complex in storage of its
 // own; the caller's array is left as it was.
-TYPED_TEST(ArithTest, SpreadingToComplexLeavesBorrowedStorageAlone) {
+TYPED_TEST(ArithTest, StorageAliasingAndRefusals) {
     using T = TypeParam;
     T mine[3] = {T(1), T(-2), T(3)};
     Vec<T> v = borrow(mine, 3);
@@ -73,12 +71,8 @@ TYPED_TEST(ArithTest, SpreadingToComplexLeavesBorrowedStorageAlone) {
     EXPECT_EQ(std::tuple(v.data != mine, v.complex, mine[1]), std::tuple(true, 1, T(-2)));
     EXPECT_EQ(std::vector<T>(v.data, v.data + 6), (std::vector<T>{T(2), T(1), T(-4), T(-2), T(6), T(3)}));
     api::destroy(&v);
-}
-
-// Into a destination, also aliased; the operations outside the random tables
-// refuse unreadable records and a missing destination.
-TYPED_TEST(ArithTest, IntoDestinationAndRefusals) {
-    using T = TypeParam;
+    // Into a destination, also aliased; the operations outside the random tables
+    // refuse unreadable records and a missing destination.
     check_into<T>(api::sqrt, api::sqrt, 5);
     expect_refuses_unreadable<T>([](Vec<T>* v) { return api::limit(v, 0, T(0), T(1), nullptr); });
     expect_refuses_unreadable<T>([](Vec<T>* v) { Owned<T> d; return api::mag(v, d.get()); });

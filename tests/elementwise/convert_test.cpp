@@ -8,7 +8,7 @@ using ref::LD;
 template <class T> class ConvertTest : public ::testing::Test {};
 TYPED_TEST_SUITE(ConvertTest, Precisions);
 
-TYPED_TEST(ConvertTest, MatchesReferenceAndGuards) {
+TYPED_TEST(ConvertTest, MatchesReferenceGuardsAndDestination) {
     using T = TypeParam;
     const auto identity = [](LD x) { return x; };
     check_all<T>({
@@ -30,10 +30,7 @@ TYPED_TEST(ConvertTest, MatchesReferenceAndGuards) {
     Owned<T> c({T(-0.0), T(-0.0)}, true);
     ASSERT_EQ(api::phase(c.get()), 0);
     EXPECT_FALSE(std::signbit(c.scalars()[0]));
-}
-
-// dspu_mag and dspu_magsq into a destination, including aliasing.
-TYPED_TEST(ConvertTest, IntoDestinationHandlesAliasing) {
+    // dspu_mag and dspu_magsq into a destination, including aliasing.
     check_into<TypeParam>(api::mag, api::mag, 3);
     check_into<TypeParam>(api::magsq, api::magsq, 4);
 }

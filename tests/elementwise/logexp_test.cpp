@@ -34,14 +34,12 @@ TYPED_TEST(LogExpTest, MatchesReferenceAndGuards) {
     const double huge_db = static_cast<double>(20 * std::log10(static_cast<LD>(huge)));
     const auto db20 = [](Vec<T>* v) { return api::db(v, T(20)); };
     check_hand<T>({
-        {api::exp, {above, 0}, false, {huge, 1}},
-        {api::exp, {above, 0}, true, {huge, 0}},
+        {api::exp, {above, 0}, false, {huge, 1}}, {api::exp, {above, 0}, true, {huge, 0}},
         {db20, {0, -1, 1, tiny, tiny / 4, 100}, false, {floor20, floor20, 0, floor20, floor20, 40}, 4},
         {db20, {0, 0, T(-0.0), tiny / 4, huge * 8, 0}, true, {floor20, 0, floor20, 0, huge_db, 0}, 4},
         {api::log, {0, 0}, true, {static_cast<double>(std::log(exact_tiny)), 0}, 4},
         {api::exp10, {1, 1000, T(below), 2, -3}, false, {10, huge, below, 2, -3}, 4},
-        {api::exp10, {T(below), 0, 2, 0}, true, {-huge, 0, 100, 0}, 16},
-        {api::exp10, {-huge}, false, {0}},
+        {api::exp10, {T(below), 0, 2, 0}, true, {-huge, 0, 100, 0}, 16}, {api::exp10, {-huge}, false, {0}},
     });
     Owned<T> v({Traits<T>::exp_limit});
     ASSERT_EQ(api::exp(v.get()), 0);

@@ -46,8 +46,7 @@ TEST(OnePortTest, CorrectionsAgreeWithTheClosedFormsInsideTheRangeOnly) {
         const bool with_load = (flag & 0xFF) != 0;
         Trace c11 = unwritten(n), c21 = c11;
         ASSERT_EQ(ApplyEnhancedResponse(d.data(), s.data(), r.data(), with_load ? l.data() : nullptr, t.data(),
-                                        m.data(), m21.data(), c11.data(), c21.data(), start, stop, flag),
-                  stop - start);
+                                        m.data(), m21.data(), c11.data(), c21.data(), start, stop, flag), stop - start);
         EXPECT_TRUE(untouched_outside(c11, start, stop) && untouched_outside(c21, start, stop));
         for (int j = start; j < stop; ++j) {
             const LC s11 = one_port_corrected(lc(m, j), lc(d, j), lc(s, j), lc(r, j));
@@ -62,8 +61,7 @@ TEST(OnePortTest, CorrectionsAgreeWithTheClosedFormsInsideTheRangeOnly) {
 // Three distinct standards measured through known terms give the terms back.
 TEST(OnePortTest, ComputedTermsAreTheTermsTheStandardsWereMeasuredThrough) {
     const int n = 25, start = 2, stop = 23;
-    const Trace e[3] = {random_points(n, 7, -0.1, 0.1), random_points(n, 8, -0.3, 0.3),
-                        random_points(n, 9, -0.3, 0.3, 0.8)};
+    const Trace e[3] = {random_points(n, 7, -0.1, 0.1), random_points(n, 8, -0.3, 0.3), random_points(n, 9, -0.3, 0.3, 0.8)};
     const Trace g[3] = {random_points(n, 10), random_points(n, 11), random_points(n, 12)}, g0 = g[0];
     Trace m[3] = {unwritten(n), unwritten(n), unwritten(n)};
     for (int i = 0; i < 3; ++i)
@@ -103,13 +101,11 @@ TEST(OnePortTest, NullArraysAndEmptyRangesWriteNothing) {
     Compute1PortTerms(nullptr, o, o, x, x, x, 0, 2);
     Compute1PortTerms(o, o, o, o, o, o, -1, 2);
     EXPECT_EQ(std::tuple(Correct1Port(x, x, x, x, nullptr, 0, n), Correct1Port(x, x, x, x, o, 3, 3),
-                         Correct1Port(x, x, x, x, o, 3, 1), Correct1Port(x, x, x, x, o, -1, 2)),
-              std::tuple(0, 0, -2, 0));
+                         Correct1Port(x, x, x, x, o, 3, 1), Correct1Port(x, x, x, x, o, -1, 2)), std::tuple(0, 0, -2, 0));
     EXPECT_EQ(std::tuple(ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, nullptr, 0, n, 0),
                          ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, nullptr, c, 0, n, 0),
                          ApplyEnhancedResponse(x, x, x, nullptr, x, x, x, o, c, 0, n, 0x101),
-                         ApplyEnhancedResponse(x, x, x, x, x, x, x, o, c, 4, 2, 1)),
-              std::tuple(n, n, 0, -2));
+                         ApplyEnhancedResponse(x, x, x, x, x, x, x, o, c, 4, 2, 1)), std::tuple(n, n, 0, -2));
     EXPECT_TRUE(untouched_outside(out, 0, 0));
 }
 

@@ -15,8 +15,7 @@ inline LC element(const std::vector<double>& a, std::size_t i, int width) { retu
 inline void put(std::vector<double>& v, std::size_t i, LC z) { v[2 * i] = double(z.real()), v[2 * i + 1] = double(z.imag()); }
 
 // n complex points (2n doubles), each part uniform in [lo, hi) plus centre on the real part.
-inline std::vector<double> random_points(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0,
-                                         double centre = 0.0) {
+inline std::vector<double> random_points(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0, double centre = 0.0) {
     std::vector<double> v = random_scalars<double>(2 * n, seed, lo, hi);
     for (std::size_t i = 0; i < v.size(); i += 2) v[i] += centre;
     return v;

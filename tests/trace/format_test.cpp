@@ -85,16 +85,13 @@ TYPED_TEST(TraceFormatTest, UnwrapRecoversContinuousPhaseWholeAndInChunks) {
 }
 
 // Only the float twin answers, with stop.
-TEST(TraceFormat, FloatUnwrapAnswersStop) {
+TEST(TraceFormat, EndCasesOfTheTwins) {
     const float z[6] = {1, 0, 0, 1, -1, 0};
     float dst[3];
     EXPECT_EQ(std::tuple(vfps_UnwrapPhase(z, 0, 3, dst, 1), vfps_UnwrapPhase(nullptr, 4, 2, nullptr, 0)), std::tuple(3, 2));
-}
-
-// The phase display and the unwrapping use degree factors that differ in the
-// last digits: at a half turn the display stays about 1.2e-11 short of 180. A
-// step of exactly half a turn is not unwrapped, either way. Log of zero: ±inf.
-TEST(TraceFormat, DoublePrecisionEndCases) {
+    // The phase display and the unwrapping use degree factors that differ in the
+    // last digits: at a half turn the display stays about 1.2e-11 short of 180. A
+    // step of exactly half a turn is not unwrapped, either way. Log of zero: ±inf.
     const double half[2] = {-1, 0}, zero[2] = {0, 0}, steps[6] = {1, 0, -1, 0, 1, 0};
     double phase = 0, unwrapped = 0, db = 0, rl = 0, rad[3], deg[3];
     vfpd_FormatBuffer(2, half, &phase, 0, 1);

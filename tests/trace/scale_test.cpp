@@ -37,8 +37,7 @@ TYPED_TEST(TraceScaleTest, ScaleToIntTruncatesTowardZeroWithoutClamping) {
                          api::scale_to_int(src.data(), -2, T(0), T(1), &dst[9], 10, 3),
                          api::scale_to_int(src.data(), 0, T(0), T(1), &dst[9], -2, INT_MAX),
                          api::scale_to_int(none, 4, T(0), T(1), &dst[9], 0, 5),
-                         api::scale_to_int(src.data(), 1, T(0), T(1), nullptr, 0, 5)),
-              std::tuple(7, -7, -INT_MAX, 5, 5));
+                         api::scale_to_int(src.data(), 1, T(0), T(1), nullptr, 0, 5)), std::tuple(7, -7, -INT_MAX, 5, 5));
     EXPECT_EQ(dst[9], 12345);
 }
 
