@@ -3,6 +3,7 @@
 // the kernels select on.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -16,21 +17,19 @@ namespace {
 using zf::Cx;
 
 // Identical doubles, any two non-numbers counting as equal.
-bool same(double a, double b) {
-    if (std::isnan(a) || std::isnan(b)) return std::isnan(a) && std::isnan(b);
-    return std::memcmp(&a, &b, sizeof a) == 0;
-}
+bool same(double a, double b) { return std::isnan(a) ? std::isnan(b) : std::memcmp(&a, &b, sizeof a) == 0; }
 
+// The twenty arrays in Correct2Port's order; a set bit of null_mask leaves
+// that array out (only the isolation terms and the outputs may be).
 struct Arrays {
     std::vector<Cx> v[20];
     zf::TwoPortArrays view(unsigned null_mask) {
         zf::TwoPortArrays t{};
-        for (int p = 0; p < 4; ++p) {
-            t.tracking[p] = v[p].data();
-            t.match[p] = v[4 + p].data();
-            t.offset[p] = (null_mask >> (8 + p)) & 1 ? nullptr : v[8 + p].data();
-            t.measured[p] = v[12 + p].data();
-            t.corrected[p] = (null_mask >> (16 + p)) & 1 ? nullptr : v[16 + p].data();
+        const Cx** in[4] = {t.tracking, t.match, t.offset, t.measured};
+        for (int i = 0; i < 20; ++i) {
+            Cx* p = (null_mask >> i) & 1 ? nullptr : v[i].data();
+            if (i < 16) in[i / 4][i % 4] = p;
+            else t.corrected[i - 16] = p;
         }
         return t;
     }
@@ -42,23 +41,19 @@ Arrays special_data(int n, unsigned seed) {
     std::mt19937 gen(seed);
     std::uniform_real_distribution<double> u(-1.0, 1.0);
     const double nan = std::numeric_limits<double>::quiet_NaN(), inf = HUGE_VAL;
+    const double spread[4] = {0.2, 0.3, 0.05, 1}, centre[4] = {0.9, 0, 0, 0};  // tracking, match, offset, measured
     Arrays a;
     for (auto& x : a.v) x.assign(n, Cx{0, 0});
     for (int j = 0; j < n; ++j) {
-        for (int p = 0; p < 4; ++p) {
-            a.v[p][j] = {0.9 + 0.2 * u(gen), 0.2 * u(gen)};
-            a.v[4 + p][j] = {0.3 * u(gen), 0.3 * u(gen)};
-            a.v[8 + p][j] = {0.05 * u(gen), 0.05 * u(gen)};
-            a.v[12 + p][j] = {u(gen), u(gen)};
-        }
-        auto set_all = [&](const double m[4], const double match[4]) {
-            for (int p = 0; p < 4; ++p)
-                a.v[p][j] = {1, 0}, a.v[8 + p][j] = {0, 0}, a.v[12 + p][j] = {m[p], 0}, a.v[4 + p][j] = {match[p], 0};
+        for (int i = 0; i < 16; ++i) a.v[i][j] = {centre[i / 4] + spread[i / 4] * u(gen), spread[i / 4] * u(gen)};
+        // A singular M in column 0 or 1, or tied pivots (|M00| = |M10|).
+        auto set_all = [&](std::array<double, 4> m, std::array<double, 4> match) {
+            for (int p = 0; p < 4; ++p) a.v[p][j] = {1, 0}, a.v[8 + p][j] = {0, 0}, a.v[12 + p][j] = {m[p], 0}, a.v[4 + p][j] = {match[p], 0};
         };
         switch (gen() % 10) {
-        case 1: { const double m[4] = {0, 2, -1, -3}, e[4] = {0.5, 1, 1, 1}; set_all(m, e); break; }
-        case 2: { const double m[4] = {-1, 5, 0, 3}, e[4] = {1, 1, 1, 1}; set_all(m, e); break; }
-        case 3: { const double m[4] = {0, 0.25, 0.75, 0}, e[4] = {0, 0, 4.0 / 3, 0}; set_all(m, e); break; }  // |M00| = |M10|
+        case 1: set_all({0, 2, -1, -3}, {0.5, 1, 1, 1}); break;
+        case 2: set_all({-1, 5, 0, 3}, {1, 1, 1, 1}); break;
+        case 3: set_all({0, 0.25, 0.75, 0}, {0, 0, 4.0 / 3, 0}); break;
         case 4: a.v[gen() % 4][j] = {0, 0}; break;
         case 5: a.v[12 + gen() % 4][j].im = nan; break;
         case 6: a.v[4 + gen() % 4][j].re = inf; break;

@@ -13,16 +13,6 @@
 
 namespace zt {
 
-// Back to scalars: pairs when complex, real parts only otherwise.
-inline std::vector<long double> scalars_of(const std::vector<Cx>& z, bool complex) {
-    std::vector<long double> out;
-    for (const Cx& c : z) {
-        out.push_back(c.real());
-        if (complex) out.push_back(c.imag());
-    }
-    return out;
-}
-
 // Ascending order of the sort: real by value; complex by squared magnitude,
 // then real part, then imaginary part.
 inline bool sort_before(const Cx& a, const Cx& b) {
@@ -30,14 +20,6 @@ inline bool sort_before(const Cx& a, const Cx& b) {
     if (ma != mb) return ma < mb;
     if (a.real() != b.real()) return a.real() < b.real();
     return a.imag() < b.imag();
-}
-
-// Rotation to the right by r samples: sample k moves to (k + r) mod n.
-template <class S> std::vector<S> rotated_right(const std::vector<S>& x, std::size_t r) {
-    const std::size_t n = x.size();
-    std::vector<S> out(n);
-    for (std::size_t k = 0; k < n; ++k) out[(k + r) % n] = x[k];
-    return out;
 }
 
 
@@ -82,20 +64,14 @@ inline std::vector<Cx> poly_product(const std::vector<Cx>& a, const std::vector<
 }
 
 
-// Zero padding by placement (0 front, 0x100 centre, 0x200 end, 0x300 spectrum
-// split), each old sample multiplied by f.
+// Zero padding to n samples by placement, each old sample multiplied by f:
+// 0 front, 0x100 centre (one further right when n is even and m odd), 0x200
+// end, 0x300 spectrum split (the first ceil(m/2) samples stay, the rest go to the end).
 inline std::vector<Cx> padded(const std::vector<Cx>& x, std::size_t n, int place, long double f) {
-    const std::size_t m = x.size();
+    const std::size_t m = x.size(), head = (m + 1) / 2;
+    const std::size_t start = place == 0x200 ? n - m : place == 0x100 ? (n - m) / 2 + (n % 2 == 0 && m % 2 == 1) : 0;
     std::vector<Cx> out(n);
-    if (place == 0x300) {
-        const std::size_t head = (m + 1) / 2;
-        for (std::size_t k = 0; k < m; ++k) out[k < head ? k : n - (m - k)] = x[k] * f;
-        return out;
-    }
-    std::size_t start = 0;
-    if (place == 0x200) start = n - m;
-    if (place == 0x100) start = (n - m) / 2 + (n % 2 == 0 && m % 2 == 1 ? 1 : 0);
-    for (std::size_t k = 0; k < m; ++k) out[start + k] = x[k] * f;
+    for (std::size_t k = 0; k < m; ++k) out[place != 0x300 ? start + k : k < head ? k : n - (m - k)] = x[k] * f;
     return out;
 }
 
@@ -114,10 +90,8 @@ template <class T> std::vector<T> unwrapped_window(std::vector<T> x, int w) {
         const T ref = filling ? (k == 0 ? T(0) : s / static_cast<T>(k)) : s * inv;
         const T d = x[k] - ref;
         if (d < -pi || d > pi) {
-            T r = std::fmod(d, two_pi);
-            if (r > pi) r -= two_pi;
-            else if (r < -pi) r += two_pi;
-            x[k] = ref + r;
+            const T r = std::fmod(d, two_pi);
+            x[k] = ref + (r > pi ? r - two_pi : r < -pi ? r + two_pi : r);
         }
         s += x[k];
         if (!filling) s -= x[k - w];

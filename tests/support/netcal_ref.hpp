@@ -12,10 +12,10 @@ using LC = std::complex<long double>;
 // of width 2 (complex) or 1 (real) doubles per element.
 inline LC lc(const std::vector<double>& v, std::size_t i) { return {v[2 * i], v[2 * i + 1]}; }
 inline LC element(const std::vector<double>& a, std::size_t i, int width) { return width == 2 ? lc(a, i) : LC(a[i], 0); }
+inline void put(std::vector<double>& v, std::size_t i, LC z) { v[2 * i] = double(z.real()), v[2 * i + 1] = double(z.imag()); }
 
 // n complex points (2n doubles), each part uniform in [lo, hi) plus centre on the real part.
-inline std::vector<double> random_points(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0,
-                                         double centre = 0.0) {
+inline std::vector<double> random_points(std::size_t n, unsigned seed, double lo = -1.0, double hi = 1.0, double centre = 0.0) {
     std::vector<double> v = random_scalars<double>(2 * n, seed, lo, hi);
     for (std::size_t i = 0; i < v.size(); i += 2) v[i] += centre;
     return v;
@@ -53,25 +53,22 @@ inline long double max_abs(const LMat& a) {
 // terms e00 (directivity), e11 (source match), e10e01 (reflection tracking).
 inline LC one_port_measured(LC g, LC e00, LC e11, LC e10e01) { return e00 + e10e01 * g / (LC(1) - e11 * g); }
 // Its inverse, the corrected reflection.
-inline LC one_port_corrected(LC m, LC e00, LC e11, LC e10e01) {
-    return (m - e00) / (e10e01 + e11 * (m - e00));
-}
+inline LC one_port_corrected(LC m, LC e00, LC e11, LC e10e01) { return (m - e00) / (e10e01 + e11 * (m - e00)); }
 
-// The twelve error terms of a two-port measurement, forward then reverse.
-struct TwelveTerms {
-    LC edf, esf, erf, etf, elf, exf;  // directivity, source match, reflection and transmission tracking, load match, isolation
-    LC edr, esr, err, etr, elr, exr;
-};
-
-// The four readings of a device with S-parameters s[0..3] (S11, S12, S21, S22).
-inline void two_port_measured(const LC s[4], const TwelveTerms& e, LC m[4]) {
+// The four readings (S11, S12, S21, S22) of a device with S-parameters s
+// through the twelve error terms, given in Correct2Port's order: tracking,
+// match, offset, each at positions S11, S12, S21, S22.
+inline void two_port_measured(const LC s[4], const LC e[12], LC m[4]) {
+    const LC &erf = e[0], &etr = e[1], &etf = e[2], &err = e[3];  // reflection and transmission tracking
+    const LC &esf = e[4], &elr = e[5], &elf = e[6], &esr = e[7];  // source and load match
+    const LC &edf = e[8], &exr = e[9], &exf = e[10], &edr = e[11];  // directivity and isolation
     const LC ds = s[0] * s[3] - s[2] * s[1];
-    const LC df = LC(1) - e.esf * s[0] - e.elf * s[3] + e.esf * e.elf * ds;
-    const LC dr = LC(1) - e.esr * s[3] - e.elr * s[0] + e.esr * e.elr * ds;
-    m[0] = e.edf + e.erf * (s[0] - e.elf * ds) / df;
-    m[2] = e.exf + e.etf * s[2] / df;
-    m[3] = e.edr + e.err * (s[3] - e.elr * ds) / dr;
-    m[1] = e.exr + e.etr * s[1] / dr;
+    const LC df = LC(1) - esf * s[0] - elf * s[3] + esf * elf * ds;
+    const LC dr = LC(1) - esr * s[3] - elr * s[0] + esr * elr * ds;
+    m[0] = edf + erf * (s[0] - elf * ds) / df;
+    m[1] = exr + etr * s[1] / dr;
+    m[2] = exf + etf * s[2] / df;
+    m[3] = edr + err * (s[3] - elr * ds) / dr;
 }
 
 }  // namespace zt

@@ -10,67 +10,37 @@ namespace ref {
 
 using ld = long double;
 
-// Index of the first largest (most = true) or smallest value among the given
-// indices, -1 when there are none.
-template <class T> int first_extreme(const std::vector<T>& data, const std::vector<int>& indices, bool most) {
+// Index of the first largest (most = true) or smallest value among the
+// indices of [start, stop) outside [from, to), -1 when there are none.
+template <class T> int first_extreme(const std::vector<T>& data, int start, int stop, int from, int to, bool most) {
     int best = -1;
-    for (int i : indices)
-        if (best < 0 || (most ? data[i] > data[best] : data[i] < data[best])) best = i;
+    for (int i = start; i < stop; ++i)
+        if ((i < from || i >= to) && (best < 0 || (most ? data[i] > data[best] : data[i] < data[best]))) best = i;
     return best;
 }
 
-// The indices of [start, stop) outside [from, to).
-inline std::vector<int> indices_outside(int start, int stop, int from, int to) {
-    std::vector<int> out;
-    for (int i = start; i < stop; ++i)
-        if (i < from || i >= to) out.push_back(i);
-    return out;
-}
-
-// Half width of the smoothing window at point i: the half aperture, or with
-// shrink the largest symmetric window inside a trace of total points.
-inline long window_half(long i, long total, long half, bool shrink) {
-    return shrink ? std::min({i, total - 1 - i, half}) : half;
-}
-
-// Moving average of a real trace: the mean of src over [i - w, i + w] with
-// indices held inside [0, last]; a point is produced while its window ends at
-// or before last, or always when clamping and the range ends at the trace end.
+// Moving average over the symmetric window [i - w, i + w] of each point i of
+// [start, stop), w the half aperture; a point is produced while its window
+// ends at or before last = stop - 1. Real traces: without edge the window
+// shrinks to fit inside the trace; with edge indices are held inside
+// [0, last] and every point is produced when the range ends at the trace end.
+// Complex traces ((re, im) pairs, window always shrinking): mean magnitude and
+// mean atan2(re, im) angle.
 template <class T>
-int smooth_plain(const std::vector<T>& src, std::vector<ld>& out, int total, int start, int stop, int aperture, bool edge) {
-    const int last = stop - 1, h = aperture / 2;
+int smooth(const std::vector<T>& src, std::vector<ld>& out, int total, int start, int stop, int aperture, bool edge, bool cpx) {
+    const long last = stop - 1, h = aperture / 2;
     int count = 0;
-    for (long i = start; i <= last; ++i) {
-        const long w = window_half(i, total, h, !edge);
-        if (i + w > last && !(edge && last >= total - 1)) break;
-        ld sum = 0;
-        for (long j = i - w; j <= i + w; ++j) sum += src[std::clamp<long>(j, 0, last)];
-        out[i] = sum / (2 * w + 1);
-        ++count;
-    }
-    return count;
-}
-
-// Complex moving average as mean magnitude and mean atan2(re, im) angle over
-// the shrinking symmetric window; (re, im) pairs.
-template <class T>
-int smooth_complex(const std::vector<T>& src, std::vector<ld>& out, int total, int start, int stop, int aperture) {
-    const int last = stop - 1, h = aperture / 2;
-    int count = 0;
-    for (long i = start; i <= last; ++i) {
-        const long w = window_half(i, total, h, true);
-        if (i + w > last) break;
-        ld mag = 0, ang = 0;
+    for (long i = start; i <= last; ++i, ++count) {
+        const long w = edge && !cpx ? h : std::min({i, total - 1 - i, h});
+        if (i + w > last && !(edge && !cpx && last >= total - 1)) break;
+        ld a = 0, b = 0;  // sum of values, or of magnitudes and angles
         for (long j = i - w; j <= i + w; ++j) {
-            const ld re = src[2 * j], im = src[2 * j + 1];
-            mag += std::sqrt(re * re + im * im);
-            ang += std::atan2(re, im);
+            if (!cpx) a += src[std::clamp<long>(j, 0, last)];
+            else a += std::hypot(ld(src[2 * j]), ld(src[2 * j + 1])), b += std::atan2(ld(src[2 * j]), ld(src[2 * j + 1]));
         }
-        mag /= 2 * w + 1;
-        ang /= 2 * w + 1;
-        out[2 * i] = mag * std::cos(ang);
-        out[2 * i + 1] = mag * std::sin(ang);
-        ++count;
+        a /= 2 * w + 1, b /= 2 * w + 1;
+        if (!cpx) out[i] = a;
+        else out[2 * i] = a * std::cos(b), out[2 * i + 1] = a * std::sin(b);
     }
     return count;
 }

@@ -13,12 +13,10 @@ TYPED_TEST(TraceScaleTest, MulScalesTheFirstNValuesOnly) {
     using T = TypeParam;
     std::vector<T> d = {1, -2, T(0.5), 4, 8};
     api::trace_mul(T(-3), d.data(), 3);
-    EXPECT_EQ(d, (std::vector<T>{-3, 6, T(-1.5), 4, 8}));
-    for (int n : {0, -4}) {
-        api::trace_mul(T(7), d.data(), n);
-        EXPECT_EQ(d, (std::vector<T>{-3, 6, T(-1.5), 4, 8}));
-    }
+    api::trace_mul(T(7), d.data(), 0);
+    api::trace_mul(T(7), d.data(), -4);
     api::trace_mul(T(2), static_cast<T*>(nullptr), 5);
+    EXPECT_EQ(d, (std::vector<T>{-3, 6, T(-1.5), 4, 8}));
 }
 
 // lo 0, hi 10 onto 0 .. 100: a factor of 10, the integer offset added before
@@ -39,8 +37,7 @@ TYPED_TEST(TraceScaleTest, ScaleToIntTruncatesTowardZeroWithoutClamping) {
                          api::scale_to_int(src.data(), -2, T(0), T(1), &dst[9], 10, 3),
                          api::scale_to_int(src.data(), 0, T(0), T(1), &dst[9], -2, INT_MAX),
                          api::scale_to_int(none, 4, T(0), T(1), &dst[9], 0, 5),
-                         api::scale_to_int(src.data(), 1, T(0), T(1), nullptr, 0, 5)),
-              std::tuple(7, -7, -INT_MAX, 5, 5));
+                         api::scale_to_int(src.data(), 1, T(0), T(1), nullptr, 0, 5)), std::tuple(7, -7, -INT_MAX, 5, 5));
     EXPECT_EQ(dst[9], 12345);
 }
 
@@ -59,9 +56,9 @@ TYPED_TEST(TraceScaleTest, ScalingsMatchReferenceOnRandomTraces) {
         EXPECT_EQ(dst[i], static_cast<int>(std::trunc(v))) << "at " << i;
     }
     std::vector<T> out(src.size()), in_place = src;
+    std::vector<ref::ld> want(src.size());
     api::scale_to_fp(src.data(), n, T(-3), T(5), out.data(), T(3), T(-7));
     api::scale_to_fp(in_place.data(), n, T(-3), T(5), in_place.data(), T(3), T(-7));
-    std::vector<ref::ld> want(src.size());
     for (int i = 0; i < n; ++i) want[i] = (ref::ld(src[i]) + 3) * (-10.0L / 8) + 3;
     EXPECT_TRUE(near_all(out, want, tol<T>(8) * 10));
     EXPECT_EQ(in_place, out);
