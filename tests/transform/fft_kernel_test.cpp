@@ -16,60 +16,37 @@ TYPED_TEST(FftKernelTest, DispatchedKernelMatchesPortable) {
     using T = TypeParam;
     const auto vec = zf::vector_dif<T>();
     if (!vec) GTEST_SKIP() << "no vector kernel on this processor";
-    const int w = zf::vector_width<T>();
-    for (int n = 4; n <= (1 << 14); n *= 2) {
-        for (int half = 0; half < 2; ++half) {
-            const int tn = half ? 2 * n : n;
+    for (int n = 4; n <= (1 << 14); n *= 2)
+        for (int tn : {n, 2 * n}) {
             const T* tw = zf::twiddles<T>(tn);
-            const T* lv = zf::level_twiddles<T>(n, tw, tn, w);
+            const T* lv = zf::level_twiddles<T>(n, tw, tn, zf::vector_width<T>());
             ASSERT_TRUE(tw && lv);
             for (int inverse = 0; inverse < 2; ++inverse) {
-                const auto in = random_scalars<T>(2 * n, n + inverse);
-                auto a = in, b = in;
+                auto a = random_scalars<T>(2 * n, n + inverse), b = a;
                 zf::dif_portable<T>(a.data(), n, tw, tn / n, inverse != 0);
                 vec(b.data(), n, lv, inverse != 0);
-                const double err = ref::rms_rel_error(ref::from_pairs(b), ref::from_pairs(a));
-                EXPECT_LE(err, 2 * static_cast<double>(Traits<T>::eps) * std::log2(n))
+                EXPECT_LE(ref::rms_rel_error(ref::from_pairs(b), ref::from_pairs(a)), 2 * static_cast<double>(Traits<T>::eps) * std::log2(n))
                     << "n = " << n << " table " << tn << (inverse ? " inverse" : " forward");
             }
         }
-    }
 }
 
-// The blocked walk of long data against the swap lists, exactly.
-TYPED_TEST(FftKernelTest, BlockedReversalMatchesSwapLists) {
+// The blocked walk of long data, scalars or pairs, and the vectorised reversal
+// of pairs, against the swap lists, exactly.
+TYPED_TEST(FftKernelTest, ReversalsMatchSwapLists) {
     using T = TypeParam;
-    for (int bits = 8; bits <= 14; ++bits) {
-        for (int width = 1; width <= 2; ++width) {
+    const auto rev = zf::vector_reverse<T>();
+    for (int bits = 4; bits <= 14; ++bits)
+        for (int width = 1; width <= 2; ++width)
             for (int scale = 0; scale < 2; ++scale) {
-                const auto in = random_scalars<T>(static_cast<std::size_t>(width) << bits, bits);
-                auto a = in, b = in;
+                auto a = random_scalars<T>(static_cast<std::size_t>(width) << bits, bits), b = a, c = a;
                 const T f = T(1) / static_cast<T>(1 << bits);
                 if (scale) zf::swap_pairs_scale<T>(a.data(), zf::swap_list<T>(bits), zf::fixed_list<T>(bits), width, f);
                 else zf::swap_pairs<T>(a.data(), zf::swap_list<T>(bits), width);
-                zf::reverse_blocked<T>(b.data(), bits, width, scale != 0, f);
-                EXPECT_EQ(a, b) << "bits " << bits << " width " << width << " scale " << scale;
+                if (bits >= 8) zf::reverse_blocked<T>(b.data(), bits, width, scale != 0, f);
+                if (rev && width == 2) rev(c.data(), bits, scale != 0, f);
+                EXPECT_TRUE((bits < 8 || a == b) && (!rev || width == 1 || a == c)) << "bits " << bits << " width " << width << " scale " << scale;
             }
-        }
-    }
-}
-
-// The vectorised reversal of complex data against the swap lists, exactly.
-TYPED_TEST(FftKernelTest, VectorReversalMatchesSwapLists) {
-    using T = TypeParam;
-    const auto rev = zf::vector_reverse<T>();
-    if (!rev) GTEST_SKIP() << "no vector kernel on this processor";
-    for (int bits = 4; bits <= 14; ++bits) {
-        for (int scale = 0; scale < 2; ++scale) {
-            const auto in = random_scalars<T>(std::size_t(2) << bits, bits + 50);
-            auto a = in, b = in;
-            const T f = T(1) / static_cast<T>(1 << bits);
-            if (scale) zf::swap_pairs_scale<T>(a.data(), zf::swap_list<T>(bits), zf::fixed_list<T>(bits), 2, f);
-            else zf::swap_pairs<T>(a.data(), zf::swap_list<T>(bits), 2);
-            rev(b.data(), bits, scale != 0, f);
-            EXPECT_EQ(a, b) << "bits " << bits << " scale " << scale;
-        }
-    }
 }
 
 // The vectorised passes of the real transforms against the portable ones.
@@ -81,15 +58,12 @@ TYPED_TEST(FftKernelTest, VectorRealPassesMatchPortable) {
         const T* tw = zf::twiddles<T>(n);
         const T* levels = zf::level_twiddles<T>(n, tw, n, w);
         ASSERT_TRUE(tw && levels);
-        const T* lv = levels + 2 * (n - 4 * w);
         for (int join = 0; join < 2; ++join) {
-            const auto in = random_scalars<T>(n + 2, n + join);
-            auto a = in, b = in;
-            if (join) { zf::join_real<T>(a.data(), n, tw, nullptr); zf::join_real<T>(b.data(), n, tw, lv); }
-            else { zf::split_real<T>(a.data(), n, tw, nullptr); zf::split_real<T>(b.data(), n, tw, lv); }
-            const std::size_t used = join ? n : n + 2;
-            a.resize(used);
-            b.resize(used);
+            auto a = random_scalars<T>(n + 2, n + join), b = a;
+            const auto pass = join ? zf::join_real<T> : zf::split_real<T>;
+            pass(a.data(), n, tw, nullptr);
+            pass(b.data(), n, tw, levels + 2 * (n - 4 * w));
+            a.resize(join ? n : n + 2), b.resize(a.size());
             EXPECT_TRUE(near_all(b, a, tol<T>(8))) << "n = " << n << (join ? " join" : " split");
         }
     }
