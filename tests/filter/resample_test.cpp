@@ -1,15 +1,13 @@
 #include "support/api_resample.hpp"
 #include "support/resample_ref.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
-
-namespace {
 
 template <class T> class ResampleTest : public ::testing::Test {};
 TYPED_TEST_SUITE(ResampleTest, Precisions);
 
-// Decimation against every factor-th sample, fed in random blocks with one phase.
+// Decimation against every factor-th sample, fed in random blocks with one
+// phase: the next kept index, relative to the next block.
 TYPED_TEST(ResampleTest, DecimationKeepsEveryFactorthSampleAcrossBlocks) {
     using T = TypeParam;
     for (int w : {1, 2})
@@ -18,14 +16,12 @@ TYPED_TEST(ResampleTest, DecimationKeepsEveryFactorthSampleAcrossBlocks) {
             const auto x = random_scalars<T>(n * w, factor + w);
             Owned<T> phase;
             std::vector<T> want;
-            const auto got = stream(x, w, factor, [&](Vec<T>* in, Vec<T>* out, int fed) {
+            for (int k = 0; k < n; k += f) want.insert(want.end(), x.begin() + k * w, x.begin() + (k + 1) * w);
+            EXPECT_EQ(stream(x, w, factor, [&](Vec<T>* in, Vec<T>* out, int fed) {
                 in->delta = T(0.5);
                 ASSERT_EQ(api::deci(in, out, factor, phase.get()), 0);
-                // the phase: the next kept index, relative to the next block
                 EXPECT_EQ(std::tuple(out->delta, phase->data[0]), std::tuple(T(0.5) * f, T((f - fed % f) % f)));
-            });
-            for (int k = 0; k < n; k += f) want.insert(want.end(), x.begin() + k * w, x.begin() + (k + 1) * w);
-            EXPECT_EQ(got, want);
+            }), want);
         }
 }
 
@@ -52,39 +48,37 @@ TYPED_TEST(ResampleTest, TableResamplingMatchesPlainLoopAndStreams) {
     Owned<T> kern;
     kern->points = 13314;
     ASSERT_EQ(api::rsmp_table(kern.get(), 4), 0);
-    for (auto wm : {std::pair{1, 0}, {1, 1}, {2, 1}})
+    for (auto [w, mode] : {std::pair{1, 0}, {1, 1}, {2, 1}})
         for (T ratio : {T(0.37), T(1), T(2.6)}) {
-            const int n = 300, w = wm.first, mode = wm.second;
-            const auto x = random_scalars<T>(n * w, w * 7 + mode);
+            const auto x = random_scalars<T>(300 * w, w * 7 + mode);
             Owned<T> in(x, w == 2), out, hist;
             out->points = 2000;
             ASSERT_EQ(api::rsmp(in.get(), out.get(), mode, kern.get(), ratio, nullptr), 0);
             const auto want = ref_rsmp<T>(x, w, kern->data, 13, 1024, mode, ratio);
             EXPECT_TRUE(near_all(out.scalars(), want, tol<T>(64)));
-            const auto got = stream(x, w, w + mode, [&](Vec<T>* blk, Vec<T>* part, int) {
+            EXPECT_TRUE(near_all(stream(x, w, w + mode, [&](Vec<T>* blk, Vec<T>* part, int) {
                 part->points = 2000;
                 ASSERT_EQ(api::rsmp(blk, part, mode, kern.get(), ratio, hist.get()), 0);
                 EXPECT_EQ(hist->data[14 * w], T(blk->points));
-            });
-            EXPECT_TRUE(near_all(got, want, tol<T>(64)));
+            }), want, tol<T>(64)));
             EXPECT_EQ(std::vector<T>(hist->data, hist->data + 13 * w), std::vector<T>(x.end() - 13 * w, x.end()));
         }
 }
 
-// A call stopped by the capacity reports the samples it accounts for; with the
-// rest fed next the stream goes on. The output may be the input record.
+// A call stopped by the capacity reports the samples it accounts for (two
+// outputs a sample from -13 on: the 31st window starts at 2); with the rest
+// fed next the stream goes on. The output may be the input record.
 TYPED_TEST(ResampleTest, CapacityStopsAndOutputMayBeInput) {
     using T = TypeParam;
     const auto x = random_scalars<T>(200, 5);
-    Owned<T> in(x), out, hist, more;
+    Owned<T> in(x), out, hist, more, rest(std::vector<T>(x.begin() + 15, x.end()));
     out->points = more->points = 1000;
     ASSERT_EQ(api::rsmp2(in.get(), out.get(), 1, 4, T(0.5), nullptr), 0);
     const auto whole = out.scalars();
     out->points = 30;
     ASSERT_EQ(api::rsmp2(in.get(), out.get(), 1, 4, T(0.5), hist.get()), 0);
-    ASSERT_EQ(hist->data[14], T(15));  // two outputs a sample from -13 on: the 31st window starts at 2
+    ASSERT_EQ(hist->data[14], T(15));
     auto got = out.scalars();
-    Owned<T> rest(std::vector<T>(x.begin() + 15, x.end()));
     ASSERT_EQ(api::rsmp2(rest.get(), more.get(), 1, 4, T(0.5), hist.get()), 0);
     got.insert(got.end(), more->data, more->data + more->points);
     EXPECT_TRUE(near_all(got, whole, tol<T>(16)));
@@ -93,23 +87,22 @@ TYPED_TEST(ResampleTest, CapacityStopsAndOutputMayBeInput) {
     EXPECT_EQ(std::tuple(in.scalars(), in->delta), std::tuple(out.scalars(), T(2.5)));
 }
 
-// Refusals: -1, nothing crashes.
+// Refusals: -1, nothing crashes; a table of no whole number of entries per
+// sample and a history position below 0 are refused as well.
 TYPED_TEST(ResampleTest, BadArgumentsAreRefused) {
     using T = TypeParam;
     Owned<T> in(random_scalars<T>(40, 1)), cin(random_scalars<T>(40, 1), true), out, hist(std::vector<T>(10)), kern, bad;
     kern->points = 2050, bad->points = 2049;
     ASSERT_EQ(api::rsmp_table(kern.get(), 2), 0);
     for (int rc : {api::rsmp_table(bad.get(), 5), api::rsmp_table(bad.get(), 3), api::rsmp_cos(kern.get(), kern.get()),
-                   api::rsmp_pcos(bad.get(), cin.get()), api::deci(nullptr, out.get(), 2, nullptr),
+                   api::rsmp_pcos(bad.get(), cin.get()), api::deci(static_cast<Vec<T>*>(nullptr), out.get(), 2, nullptr),
                    api::deci(in.get(), out.get(), 2, in.get()), api::rsmp(in.get(), out.get(), 1, kern.get(), T(-1), nullptr),
                    api::rsmp(in.get(), out.get(), 1, kern.get(), T(NAN), nullptr), api::rsmp(in.get(), out.get(), 2, kern.get(), T(1), nullptr),
                    api::rsmp(cin.get(), out.get(), 0, kern.get(), T(1), nullptr), api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), in.get()),
                    api::rsmp(in.get(), kern.get(), 1, kern.get(), T(1), nullptr)})
         EXPECT_EQ(rc, -1);
-    kern->data[0] = T(7);  // 2048 entries are no whole number per sample
+    kern->data[0] = T(7);  // 2048 entries
     const int uneven = api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), nullptr);
     kern->data[0] = T(8), hist->data[8] = T(-1);  // the position (K = 8) at -1
     EXPECT_EQ(uneven + api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), hist.get()), -2);
 }
-
-}  // namespace
