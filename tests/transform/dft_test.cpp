@@ -4,6 +4,7 @@
 #include <map>
 
 #include "support/api_dft.hpp"
+#include "support/dct_ref.hpp"
 #include "support/dft_ref.hpp"
 #include "support/records.hpp"
 #include "transform/dft.hpp"
@@ -121,19 +122,74 @@ TYPED_TEST(DftTest, OreconMirrorsTheSpectrum) {
     }
 }
 
-// Fewer than two points change only the spacing; bad records are refused, and
-// rdft refuses complex input.
+// Against the direct DFT with the bins turned by ∓90° (Hilbert: DC and the
+// Nyquist bin of an even length cleared) or one-sided (analytic: positive
+// bins doubled, DC and Nyquist kept once), for real and complex input. The
+// Hilbert transform of a real vector stays real, the analytic signal is
+// complex; both keep the spacing.
+TYPED_TEST(DftTest, HilbertAndAnalyticMatchTheTurnedAndOneSidedSpectra) {
+    using T = TypeParam;
+    for (int n : {9, 10, 11, 12, 15, 16, 32, 64, 1000})
+        for (int cx = 0; cx < 2; ++cx) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " complex=" << cx);
+            const std::vector<T> x = random_scalars<T>((1 + cx) * n, 80 + n);
+            auto H = ref::forward(samples(x, cx)), Z = H;
+            for (int k = 0; k < n; ++k) {
+                const int side = k == 0 || 2 * k == n ? 0 : 2 * k < n ? 1 : -1;
+                H[k] *= ref::cld(0, -side);
+                Z[k] *= static_cast<long double>(1 + side);
+            }
+            for (int op = 0; op < 2; ++op) {
+                Owned<T> v(x, cx, T(0.1));
+                ASSERT_EQ(op ? api::analytic(v.get()) : api::hilbert(v.get()), 0);
+                EXPECT_EQ(std::tuple(v->points, v->complex), std::tuple(n, int(op || cx)));
+                EXPECT_NEAR(v->delta, 0.1, 0.1 * tol<T>());
+                EXPECT_LE(ref::rms_rel_error(samples(v.scalars(), op || cx), ref::inverse(op ? Z : H)), 2 * ref::dft_bound<T>(n)) << op;
+            }
+        }
+}
+
+// The DCT at odd, even, power-of-two and chirp-z lengths, and more than 256
+// twiddles; plain and orthonormal scaling. The inverse restores the input and spacing.
+TYPED_TEST(DftTest, DctMatchesDirectDctAndInverseUndoesIt) {
+    using T = TypeParam;
+    for (int n : {1, 2, 3, 5, 8, 12, 100, 257, 1024, 1500})
+        for (int flags : {0, 2}) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " flags=" << flags);
+            const std::vector<T> x = random_scalars<T>(n, 40 + n);
+            const auto want = ref::dct(std::vector<long double>(x.begin(), x.end()), flags == 2);
+            Owned<T> v(x, false, T(0.5));
+            ASSERT_EQ(api::dct(v.get(), flags), 0);
+            ASSERT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 0));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), std::vector<ref::cld>(want.begin(), want.end())), ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 1.0 / n, tol<T>() / n);  // 1/(2N·0.5)
+            ASSERT_EQ(api::dct(v.get(), flags | 1), 0);
+            ASSERT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 0));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 0.5, 0.5 * tol<T>());
+        }
+}
+
+// Fewer than two points change only the spacing (a spacing of 0 becomes
+// huge; the DCT of nothing takes 1/(2N·delta) with N = 1). One sample has no
+// frequency but DC: its Hilbert transform is 0, its analytic signal the
+// sample. Unreadable records are refused; rdft and the DCT refuse complex input.
 TYPED_TEST(DftTest, ShortAndBadRecords) {
     using T = TypeParam;
-    Owned<T> one(std::vector<T>{T(3)}, false, T(4)), empty, c(random_scalars<T>(12, 1), true);
-    empty->delta = T(0);
-    ASSERT_EQ(api::dft(one.get(), 0) | api::dft(empty.get(), 1), 0);
+    Owned<T> one(std::vector<T>{T(3)}, false, T(4)), empty, nothing, h(std::vector<T>{T(2.5)}), a(std::vector<T>{T(2.5)});
+    Owned<T> c(random_scalars<T>(12, 1), true);
+    empty->delta = T(0), nothing->delta = T(4);
+    ASSERT_EQ(api::dft(one.get(), 0) | api::dft(empty.get(), 1) | api::hilbert(nothing.get()) | api::analytic(nothing.get()), 0);
     EXPECT_EQ(std::tuple(one.scalars(), one->complex, one->delta), std::tuple(std::vector<T>{T(3)}, 0, T(0.25)));
     EXPECT_EQ(std::tuple(empty->points, empty->delta), std::tuple(0, Traits<T>::huge));
+    empty->delta = T(0);
+    ASSERT_EQ(api::dct(nothing.get(), 0) | api::dct(empty.get(), 0) | api::hilbert(h.get()) | api::analytic(a.get()), 0);
+    EXPECT_EQ(std::tuple(nothing->points, nothing->delta, empty->delta), std::tuple(0, T(0.125), Traits<T>::huge));
+    EXPECT_EQ(std::tuple(h.scalars(), a.scalars()), std::tuple(std::vector<T>{T(0)}, std::vector<T>{T(2.5), T(0)}));
     for (auto f : {+[](Vec<T>* v) { return api::dft(v, 0); }, api::rdft, +[](Vec<T>* v) { return api::irdft(v, 1); },
-                   +[](Vec<T>* v) { return api::orecon(v, 0); }, api::recon})
+                   +[](Vec<T>* v) { return api::orecon(v, 0); }, api::recon, api::hilbert, api::analytic, +[](Vec<T>* v) { return api::dct(v, 0); }})
         expect_refuses_unreadable<T>(f);
-    EXPECT_EQ(api::rdft(c.get()), -1);
+    EXPECT_EQ(api::rdft(c.get()) + api::dct(c.get(), 0) + api::dct(c.get(), 1), -3);
 }
 
 }  // namespace
