@@ -1,6 +1,7 @@
 // Test-side overloads of the generators, spectra, averaging and correlation, picked by record type.
 #pragma once
 #include "support/api_core.hpp"
+#include "support/window_ref.hpp"   // api::window2
 
 namespace api {
 // op 0: dspc_cos, 1: dspc_cexp, 2: dspi_addcos with amplitude a.
@@ -8,7 +9,6 @@ inline int sine(int op, dsp_vector* v, int fl, double a, double f, double p) { r
 inline int sine(int op, dspf_vector* v, int fl, float a, float f, float p) { return op == 0 ? dspfc_cos(v, f, p) : op == 1 ? dspfc_cexp(v, f, p) : dspfi_addcos(v, fl, a, f, p); }
 ZT_TWIN(line, dspc_line, dspfc_line)
 ZT_TWIN(rand, dspc_rand, dspfc_rand)
-ZT_TWIN(window2, dspi_window2, dspfi_window2)
 ZT_TWIN(avg, dsph_avg, dspfh_avg)
 // dsph_dft (dft set) or dsph_fft.
 inline int spectrum(bool dft, const dsp_vector* in, dsp_vector* out, int p, double f, int k, int fl) { return dft ? dsph_dft(in, out, k, fl) : dsph_fft(in, out, p, f, k, fl); }
