@@ -28,11 +28,10 @@ TYPED_TEST(Generate, SinusoidsFollowDirectTrigonometry) {
         Owned<T> v(old, c.complex, delta);
         ASSERT_EQ(api::sine(c.op, v.get(), c.flags, T(c.a), freq, phase), 0);
         double worst = 0;
-        for (int i = 0; i < n; ++i) {
-            const long double t = om * i + static_cast<long double>(phase);
-            const int k = c.complex ? 2 * i : i;
-            worst = std::fmax(worst, std::fabs(v->data[k] - c.keep * old[k] - c.a * static_cast<double>(std::cos(t))));
-            if (c.complex) worst = std::fmax(worst, std::fabs(v->data[k + 1] - c.keep * old[k + 1] - c.b * static_cast<double>(std::sin(t))));
+        for (int k = 0; k < (c.complex ? 2 * n : n); ++k) {
+            const long double t = om * (c.complex ? k / 2 : k) + static_cast<long double>(phase);
+            const double part = k % 2 && c.complex ? c.b * static_cast<double>(std::sin(t)) : c.a * static_cast<double>(std::cos(t));
+            worst = std::fmax(worst, std::fabs(v->data[k] - c.keep * old[k] - part));
         }
         // The angle itself carries the rounding of the step: |w n| eps of double.
         EXPECT_LE(worst, tol<T>(512) + 2 * static_cast<double>(om) * n * Traits<double>::eps) << "op " << c.op << " flags " << c.flags << " complex " << c.complex;

@@ -1,15 +1,14 @@
 #include "support/api_resample.hpp"
+#include "support/records.hpp"
 #include "support/resample_ref.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
-
-namespace {
 
 template <class T> class ResampleTest : public ::testing::Test {};
 TYPED_TEST_SUITE(ResampleTest, Precisions);
 
-// Decimation against every factor-th sample, fed in random blocks with one phase.
+// Decimation against every factor-th sample, fed in random blocks with one
+// phase: the next kept index, relative to the next block.
 TYPED_TEST(ResampleTest, DecimationKeepsEveryFactorthSampleAcrossBlocks) {
     using T = TypeParam;
     for (int w : {1, 2})
@@ -18,14 +17,12 @@ TYPED_TEST(ResampleTest, DecimationKeepsEveryFactorthSampleAcrossBlocks) {
             const auto x = random_scalars<T>(n * w, factor + w);
             Owned<T> phase;
             std::vector<T> want;
-            const auto got = stream(x, w, factor, [&](Vec<T>* in, Vec<T>* out, int fed) {
+            for (int k = 0; k < n; k += f) want.insert(want.end(), x.begin() + k * w, x.begin() + (k + 1) * w);
+            EXPECT_EQ(stream(x, w, factor, [&](Vec<T>* in, Vec<T>* out, int fed) {
                 in->delta = T(0.5);
                 ASSERT_EQ(api::deci(in, out, factor, phase.get()), 0);
-                // the phase: the next kept index, relative to the next block
                 EXPECT_EQ(std::tuple(out->delta, phase->data[0]), std::tuple(T(0.5) * f, T((f - fed % f) % f)));
-            });
-            for (int k = 0; k < n; k += f) want.insert(want.end(), x.begin() + k * w, x.begin() + (k + 1) * w);
-            EXPECT_EQ(got, want);
+            }), want);
         }
 }
 
@@ -52,39 +49,37 @@ TYPED_TEST(ResampleTest, TableResamplingMatchesPlainLoopAndStreams) {
     Owned<T> kern;
     kern->points = 13314;
     ASSERT_EQ(api::rsmp_table(kern.get(), 4), 0);
-    for (auto wm : {std::pair{1, 0}, {1, 1}, {2, 1}})
+    for (auto [w, mode] : {std::pair{1, 0}, {1, 1}, {2, 1}})
         for (T ratio : {T(0.37), T(1), T(2.6)}) {
-            const int n = 300, w = wm.first, mode = wm.second;
-            const auto x = random_scalars<T>(n * w, w * 7 + mode);
+            const auto x = random_scalars<T>(300 * w, w * 7 + mode);
             Owned<T> in(x, w == 2), out, hist;
             out->points = 2000;
             ASSERT_EQ(api::rsmp(in.get(), out.get(), mode, kern.get(), ratio, nullptr), 0);
             const auto want = ref_rsmp<T>(x, w, kern->data, 13, 1024, mode, ratio);
             EXPECT_TRUE(near_all(out.scalars(), want, tol<T>(64)));
-            const auto got = stream(x, w, w + mode, [&](Vec<T>* blk, Vec<T>* part, int) {
+            EXPECT_TRUE(near_all(stream(x, w, w + mode, [&](Vec<T>* blk, Vec<T>* part, int) {
                 part->points = 2000;
                 ASSERT_EQ(api::rsmp(blk, part, mode, kern.get(), ratio, hist.get()), 0);
                 EXPECT_EQ(hist->data[14 * w], T(blk->points));
-            });
-            EXPECT_TRUE(near_all(got, want, tol<T>(64)));
+            }), want, tol<T>(64)));
             EXPECT_EQ(std::vector<T>(hist->data, hist->data + 13 * w), std::vector<T>(x.end() - 13 * w, x.end()));
         }
 }
 
-// A call stopped by the capacity reports the samples it accounts for; with the
-// rest fed next the stream goes on. The output may be the input record.
+// A call stopped by the capacity reports the samples it accounts for (two
+// outputs a sample from -13 on: the 31st window starts at 2); with the rest
+// fed next the stream goes on. The output may be the input record.
 TYPED_TEST(ResampleTest, CapacityStopsAndOutputMayBeInput) {
     using T = TypeParam;
     const auto x = random_scalars<T>(200, 5);
-    Owned<T> in(x), out, hist, more;
+    Owned<T> in(x), out, hist, more, rest(std::vector<T>(x.begin() + 15, x.end()));
     out->points = more->points = 1000;
     ASSERT_EQ(api::rsmp2(in.get(), out.get(), 1, 4, T(0.5), nullptr), 0);
     const auto whole = out.scalars();
     out->points = 30;
     ASSERT_EQ(api::rsmp2(in.get(), out.get(), 1, 4, T(0.5), hist.get()), 0);
-    ASSERT_EQ(hist->data[14], T(15));  // two outputs a sample from -13 on: the 31st window starts at 2
+    ASSERT_EQ(hist->data[14], T(15));
     auto got = out.scalars();
-    Owned<T> rest(std::vector<T>(x.begin() + 15, x.end()));
     ASSERT_EQ(api::rsmp2(rest.get(), more.get(), 1, 4, T(0.5), hist.get()), 0);
     got.insert(got.end(), more->data, more->data + more->points);
     EXPECT_TRUE(near_all(got, whole, tol<T>(16)));
@@ -93,23 +88,107 @@ TYPED_TEST(ResampleTest, CapacityStopsAndOutputMayBeInput) {
     EXPECT_EQ(std::tuple(in.scalars(), in->delta), std::tuple(out.scalars(), T(2.5)));
 }
 
-// Refusals: -1, nothing crashes.
+// Refusals: -1, nothing crashes; a table of no whole number of entries per
+// sample and a history position below 0 are refused as well.
 TYPED_TEST(ResampleTest, BadArgumentsAreRefused) {
     using T = TypeParam;
     Owned<T> in(random_scalars<T>(40, 1)), cin(random_scalars<T>(40, 1), true), out, hist(std::vector<T>(10)), kern, bad;
     kern->points = 2050, bad->points = 2049;
     ASSERT_EQ(api::rsmp_table(kern.get(), 2), 0);
     for (int rc : {api::rsmp_table(bad.get(), 5), api::rsmp_table(bad.get(), 3), api::rsmp_cos(kern.get(), kern.get()),
-                   api::rsmp_pcos(bad.get(), cin.get()), api::deci(nullptr, out.get(), 2, nullptr),
+                   api::rsmp_pcos(bad.get(), cin.get()), api::deci(static_cast<Vec<T>*>(nullptr), out.get(), 2, nullptr),
                    api::deci(in.get(), out.get(), 2, in.get()), api::rsmp(in.get(), out.get(), 1, kern.get(), T(-1), nullptr),
                    api::rsmp(in.get(), out.get(), 1, kern.get(), T(NAN), nullptr), api::rsmp(in.get(), out.get(), 2, kern.get(), T(1), nullptr),
                    api::rsmp(cin.get(), out.get(), 0, kern.get(), T(1), nullptr), api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), in.get()),
                    api::rsmp(in.get(), kern.get(), 1, kern.get(), T(1), nullptr)})
         EXPECT_EQ(rc, -1);
-    kern->data[0] = T(7);  // 2048 entries are no whole number per sample
+    kern->data[0] = T(7);  // 2048 entries
     const int uneven = api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), nullptr);
     kern->data[0] = T(8), hist->data[8] = T(-1);  // the position (K = 8) at -1
     EXPECT_EQ(uneven + api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), hist.get()), -2);
 }
 
-}  // namespace
+// A sine of f cycles per sample.
+template <class T> static std::vector<T> tone(int n, double f) {
+    std::vector<T> x(n);
+    for (int k = 0; k < n; ++k) x[k] = static_cast<T>(std::sin(2 * M_PI * f * k));
+    return x;
+}
+
+// Ratios split into octaves and a remainder, with the start-up skips worked
+// out by hand: ceil(35 / r) + 19 when the fractional stage runs. Refused
+// set-ups store nothing.
+TYPED_TEST(ResampleTest, ResamplerSetupSplitsTheRatio) {
+    using T = TypeParam;
+    struct Case { double ratio; int force, octaves; double rest; int oskip, fskip; };
+    for (const Case& c : {Case{5, 0, 2, 1.25, 33, 47}, {4, 0, 2, 1, 33, 0}, {4, 1, 2, 1, 33, 54}, {-3, 0, 0, 1, 0, 0},
+                          {0.8, 0, 0, 0.8, 0, 63}, {1.0 / 3, 0, 0, 1.0 / 3, 0, 124}, {7.5, 0, 2, 1.875, 33, 38}}) {
+        api::Resampler<T> r(static_cast<T>(c.ratio), c.force);
+        ASSERT_EQ(r.status, 0);
+        EXPECT_EQ(std::tuple(r.c.octaves, r.c.ratio, r.c.octave_skip, r.c.fraction_skip, r.s.octave_pending, r.s.fraction_pending, r.s.stages),
+                  std::tuple(c.octaves, static_cast<T>(c.rest), c.oskip, c.fskip, c.oskip, c.fskip, c.octaves)) << c.ratio;
+        for (int k = 0; k < c.octaves; ++k) EXPECT_EQ(r.s.stage_history[k].points + r.s.stage_phase[k].points, 39);
+        EXPECT_EQ(r.s.prefilter_history.points + r.s.kernel_history.points + r.s.halfband_history.points, 22 + 15 + 38);
+        EXPECT_EQ(api::coef_setup(&r.c, T(2), 0, &r) + api::coef_setup(&r.c, T(NAN), 0, nullptr), -2);
+        EXPECT_EQ(r.c.octaves, c.octaves);
+    }
+}
+
+// The output is the resampled tone: the fitted tone at f times the ratio
+// leaves only the kernels' error; the spacing follows the ratio.
+TYPED_TEST(ResampleTest, ResamplerOutputIsTheResampledTone) {
+    using T = TypeParam;
+    for (double ratio : {0.8, 1.0 / 3, 1.25, 2.5, 5.0}) {
+        api::Resampler<T> r(static_cast<T>(ratio));
+        Owned<T> in(tone<T>(6000, 0.05), false, T(0.5)), out;
+        out->points = static_cast<int>(6000 / ratio) + 2;
+        ASSERT_EQ(r.run(in.get(), out.get()), 0);
+        double amp, snr = snr_db(out.scalars(), 0.05 * ratio, 200, amp);
+        EXPECT_GT(snr, sizeof(T) == 8 ? 110 : 60) << ratio;
+        EXPECT_TRUE(std::fabs(amp - 1) < 5e-3 && out->points > 6000 / ratio - 150 && std::fabs(out->delta - 0.5 * ratio) < 1e-6);
+    }
+}
+
+// Blocks of random sizes, 0 and 1 among them, with one state give the output
+// of one call on the whole signal; for a ratio of 1 the output is the input.
+TYPED_TEST(ResampleTest, ResamplerStreamingEqualsWhole) {
+    using T = TypeParam;
+    for (int w : {1, 2})
+        for (double ratio : {0.7, 1.0, 2.5, 4.0, 6.3}) {
+            const auto x = random_scalars<T>(1500 * w, w);
+            Owned<T> in(x, w == 2), whole, scratch;
+            api::Resampler<T> a(static_cast<T>(ratio)), b(static_cast<T>(ratio));
+            whole->points = 3040;
+            ASSERT_EQ(a.run(in.get(), whole.get()), 0);
+            if (ratio == 1.0) EXPECT_EQ(whole.scalars(), x);
+            const auto got = stream(x, w, w, [&](Vec<T>* blk, Vec<T>* part, int) {
+                part->points = static_cast<int>(blk->points / ratio) + 40;
+                ASSERT_EQ(b.run(blk, part, scratch.get()), 0);
+            });
+            EXPECT_TRUE(near_all(got, whole.scalars(), tol<T>(64))) << ratio;
+        }
+}
+
+// Null records, refused scratch; a lone block without state drops nothing
+// (300 / 2.5 outputs, cut to 100). Allocation failing at each point in turn
+// returns -1 and leaks nothing.
+TYPED_TEST(ResampleTest, ResamplerRefusalsAndAllocationFailures) {
+    using T = TypeParam;
+    Owned<T> in(tone<T>(300, 0.1)), out, cin(tone<T>(1000, 0.01), true);
+    api::Resampler<T> r(T(2.5));
+    EXPECT_EQ(api::coef_setup(static_cast<decltype(&r.c)>(nullptr), T(2), 0, nullptr) + r.run(in.get(), out.get(), in.get()) + r.run(nullptr, out.get()), -3);
+    out->points = 100;
+    EXPECT_EQ(api::hrsmp(in.get(), out.get(), nullptr, &r.c, static_cast<decltype(&r.s)>(nullptr)), 0);
+    EXPECT_EQ(out->points, 100);
+    using Hooks = CountingHooks<T>;
+    for (int fail = 1, rc = -1; rc != 0 && fail < 500; ++fail) {
+        {
+            typename Hooks::Installed hooks(fail);
+            api::Resampler<T> h(T(5.3), 0, 1);
+            Owned<T> cout;
+            cout->points = 100;
+            rc = h.status | h.run(cin.get(), cout.get());
+        }
+        EXPECT_TRUE(Hooks::live == 0 && (rc == 0) == (Hooks::calls < fail)) << fail;
+    }
+}

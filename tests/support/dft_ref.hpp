@@ -4,13 +4,9 @@
 // follow the library's convention: X[k] = scale * sum x[n] e^(sign j 2 pi nk/N).
 #pragma once
 
-#include <cmath>
-#include <complex>
-#include <cstddef>
 #include <limits>
-#include <vector>
 
-#include "support/vectors.hpp"
+#include "support/vectors.hpp"   // <cmath>, <complex>, <vector>
 
 namespace ref {
 
@@ -28,27 +24,20 @@ inline std::vector<cld> unit_roots(std::size_t n, int sign) {
     return w;
 }
 
-// Real arithmetic in the O(N^2) loop: a product of std::complex values goes
-// through the runtime's check for infinities on every call, which makes long
-// references crawl in unoptimised builds.
+// Real arithmetic on the parts (a complex value is an array of two) in the
+// O(N^2) loop: a product of std::complex values goes through the runtime's
+// check for infinities on every call, which makes long references crawl in
+// unoptimised builds.
 inline std::vector<cld> dft(const std::vector<cld>& x, int sign, long double scale = 1) {
     const std::size_t n = x.size();
     const std::vector<cld> w = unit_roots(n, sign);
-    std::vector<long double> wr(n), wi(n), xr(n), xi(n);
-    for (std::size_t m = 0; m < n; ++m) {
-        wr[m] = w[m].real();
-        wi[m] = w[m].imag();
-        xr[m] = x[m].real();
-        xi[m] = x[m].imag();
-    }
+    const long double *wp = reinterpret_cast<const long double*>(w.data()), *xp = reinterpret_cast<const long double*>(x.data());
     std::vector<cld> out(n);
     for (std::size_t k = 0; k < n; ++k) {
         long double sr = 0, si = 0;
-        for (std::size_t m = 0, idx = 0; m < n; ++m) {  // idx = m·k mod n
-            sr += xr[m] * wr[idx] - xi[m] * wi[idx];
-            si += xr[m] * wi[idx] + xi[m] * wr[idx];
-            idx += k;
-            if (idx >= n) idx -= n;
+        for (std::size_t m = 0, i = 0; m < n; ++m, i = i + k >= n ? i + k - n : i + k) {  // i = m·k mod n
+            sr += xp[2 * m] * wp[2 * i] - xp[2 * m + 1] * wp[2 * i + 1];
+            si += xp[2 * m] * wp[2 * i + 1] + xp[2 * m + 1] * wp[2 * i];
         }
         out[k] = cld(sr, si) * scale;
     }
@@ -61,30 +50,17 @@ inline std::vector<cld> forward(const std::vector<cld>& x) {
 }
 inline std::vector<cld> inverse(const std::vector<cld>& x) { return dft(x, +1); }
 
-namespace detail {
-inline void radix2(cld* x, std::size_t n, std::size_t stride, const std::vector<cld>& w, cld* tmp) {
-    if (n == 1) return;
-    const std::size_t h = n / 2;
-    for (std::size_t i = 0; i < h; ++i) { tmp[i] = x[2 * i]; tmp[h + i] = x[2 * i + 1]; }
-    for (std::size_t i = 0; i < n; ++i) x[i] = tmp[i];
-    radix2(x, h, stride * 2, w, tmp);
-    radix2(x + h, h, stride * 2, w, tmp);
-    for (std::size_t k = 0; k < h; ++k) {
-        const cld e = x[k], o = x[h + k] * w[k * stride];
-        x[k] = e + o;
-        x[h + k] = e - o;
-    }
-}
-}  // namespace detail
-
-// Power-of-two lengths only.
-inline std::vector<cld> fft(std::vector<cld> x, int sign, long double scale = 1) {
-    const std::size_t n = x.size();
+// Power-of-two lengths: halves of even and odd samples, joined by the exact
+// roots; the direct sum below 64 points.
+inline std::vector<cld> fft(const std::vector<cld>& x, int sign, long double scale = 1) {
+    const std::size_t n = x.size(), h = n / 2;
+    if (n < 64) return dft(x, sign, scale);
+    std::vector<cld> e(h), o(h), out(n);
+    for (std::size_t i = 0; i < h; ++i) e[i] = x[2 * i], o[i] = x[2 * i + 1];
+    e = fft(e, sign), o = fft(o, sign);
     const std::vector<cld> w = unit_roots(n, sign);
-    std::vector<cld> tmp(n);
-    detail::radix2(x.data(), n, 1, w, tmp.data());
-    for (auto& v : x) v *= scale;
-    return x;
+    for (std::size_t k = 0; k < h; ++k) out[k] = (e[k] + w[k] * o[k]) * scale, out[h + k] = (e[k] - w[k] * o[k]) * scale;
+    return out;
 }
 
 // Interleaved (re, im) scalars to complex values, and real scalars to complex.
@@ -100,13 +76,10 @@ template <class T> double dft_bound(std::size_t n) {
 
 // RMS of the error relative to the RMS of the exact result.
 inline double rms_rel_error(const std::vector<cld>& got, const std::vector<cld>& want) {
-    long double e = 0, r = 0;
-    for (std::size_t i = 0; i < want.size() && i < got.size(); ++i) {
-        e += std::norm(got[i] - want[i]);
-        r += std::norm(want[i]);
-    }
     if (got.size() != want.size()) return 1e300;
-    return r > 0 ? static_cast<double>(std::sqrt(e / r)) : static_cast<double>(std::sqrt(e));
+    long double e = 0, r = 0;
+    for (std::size_t i = 0; i < want.size(); ++i) e += std::norm(got[i] - want[i]), r += std::norm(want[i]);
+    return static_cast<double>(r > 0 ? std::sqrt(e / r) : std::sqrt(e));
 }
 
 }  // namespace ref

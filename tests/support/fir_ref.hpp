@@ -11,13 +11,6 @@ namespace ref {
 using cl = std::complex<long double>;
 constexpr long double pi_fir = 3.141592653589793238462643383279502884L;
 
-// Samples of a record's scalars (pairs when complex).
-template <class T> std::vector<cl> samples(const std::vector<T>& s, bool complex) {
-    std::vector<cl> v;
-    for (std::size_t k = 0; k < s.size(); k += complex ? 2 : 1) v.emplace_back(s[k], complex ? s[k + 1] : T(0));
-    return v;
-}
-
 // y[n] = sum h[k] x[n-k], x[m < 0] = past[past.size() + m] (zeros before it).
 inline std::vector<cl> convolve(const std::vector<cl>& x, const std::vector<cl>& h, const std::vector<cl>& past) {
     std::vector<cl> y(x.size());

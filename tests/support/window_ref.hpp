@@ -5,13 +5,21 @@
 #include "support/vectors.hpp"   // <cmath>, <vector>
 
 namespace api {
-// The entry point of the precision T among its twins.
-template <class T, class D, class F> auto pick(D d, F f) {
-    if constexpr (sizeof(T) == 8) return d; else return f;
-}
+ZT_TWIN(window, dspi_window, dspfi_window)
+ZT_TWIN(window2, dspi_window2, dspfi_window2)
+ZT_TWIN(window_fir, dspi_window_fir, dspfi_window_fir)
+ZT_TWIN(window_cos, dspi_window_cos, dspfi_window_cos)
+ZT_TWIN(window_scale, dsp_window_scale, dspf_window_scale)
+ZT_TWIN(window2_scale, dsp_window2_scale, dspf_window2_scale)
+ZT_TWIN(window_enbw, dsp_window_enbw, dspf_window_enbw)
+ZT_TWIN(window2_enbw, dsp_window2_enbw, dspf_window2_enbw)
+ZT_TWIN(kaiser, dspi_window_kaiser, dspfi_window_kaiser)
+ZT_TWIN(gauss, dspi_window_gauss, dspfi_window_gauss)
+ZT_TWIN(sinc, dspi_window_sinc, dspfi_window_sinc)
+ZT_TWIN(tukey, dspi_window_tukey, dspfi_window_tukey)
+// The parametrised windows by the reference's shape letter.
 template <class T> int window_shape(zf::Vec<T>* v, char s, T a, T b, int f) {
-    return s == 'k' ? pick<T>(dspi_window_kaiser, dspfi_window_kaiser)(v, a, f) : s == 'g' ? pick<T>(dspi_window_gauss, dspfi_window_gauss)(v, a, f)
-         : s == 's' ? pick<T>(dspi_window_sinc, dspfi_window_sinc)(v, a, b, f) : pick<T>(dspi_window_tukey, dspfi_window_tukey)(v, a, f);
+    return s == 'k' ? kaiser(v, a, f) : s == 'g' ? gauss(v, a, f) : s == 's' ? sinc(v, a, b, f) : tukey(v, a, f);
 }
 }  // namespace api
 

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "support/api_dft.hpp"
+#include "support/dct_ref.hpp"
 #include "support/dft_ref.hpp"
 #include "support/records.hpp"
 #include "transform/dft.hpp"
@@ -15,46 +16,29 @@ namespace {
 template <class T> class DftTest : public ::testing::Test {};
 TYPED_TEST_SUITE(DftTest, Precisions);
 
-// A complex record of n random pairs.
-template <class T> std::vector<T> random_pairs(int n, unsigned seed) {
-    return random_scalars<T>(2 * static_cast<std::size_t>(n), seed);
+// Random pairs exact in both precisions, and their exact transform in each
+// direction, computed once for both precisions.
+std::vector<float> input(int n) { return random_scalars<float>(2 * static_cast<std::size_t>(n), 7 + n); }
+const std::vector<ref::cld>& exact(int n, int dir) {
+    static std::map<std::pair<int, int>, std::vector<ref::cld>> memo;
+    auto& w = memo[{n, dir}];
+    if (w.empty()) w = dir ? ref::inverse(ref::from_pairs(input(n))) : ref::forward(ref::from_pairs(input(n)));
+    return w;
 }
 
 // Chirp-z lengths (3, 5, 9 use the tightest convolution lengths 4, 8, 16;
 // 4097 = 2^12 + 1 has 2N - 2 exactly a power of two) and power-of-two lengths.
-const int kLengths[] = {3, 5, 9, 12, 100, 1000, 4097, 2, 8, 64, 1024};
-
-// Random pairs exact in both precisions and their exact transform, computed
-// once for both. The inverse direction transforms the conjugate input, whose
-// inverse transform is N·conj(X) with X the forward transform of the input.
-std::vector<ref::cld> shared_ref(int n, int dir, std::vector<float>& x) {
-    static std::map<int, std::vector<ref::cld>> memo;
-    x = random_pairs<float>(n, 7 + n);
-    auto it = memo.find(n);
-    if (it == memo.end()) it = memo.emplace(n, ref::forward(ref::from_pairs(x))).first;
-    std::vector<ref::cld> w = it->second;
-    if (dir == 0) return w;
-    for (std::size_t i = 1; i < x.size(); i += 2) x[i] = -x[i];
-    for (ref::cld& z : w) z = std::conj(z) * static_cast<long double>(n);
-    return w;
-}
-
 TYPED_TEST(DftTest, MatchesDirectDftInBothDirections) {
     using T = TypeParam;
-    for (int n : kLengths) {
+    for (int n : {3, 5, 9, 12, 100, 1000, 4097, 2, 8, 64, 1024})
         for (int dir : {0, 1}) {
-            SCOPED_TRACE(::testing::Message() << "n=" << n << " direction=" << dir);
-            std::vector<float> xf;
-            const auto want = shared_ref(n, dir, xf);
-            const std::vector<T> x(xf.begin(), xf.end());
-            Owned<T> v(x, true, T(0.5));
+            const auto x = input(n);
+            Owned<T> v(std::vector<T>(x.begin(), x.end()), true, T(0.5));
             ASSERT_EQ(api::dft(v.get(), dir), 0);
-            EXPECT_EQ(v->points, n);
-            EXPECT_TRUE(v->complex);
-            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), want), ref::dft_bound<T>(n));
+            EXPECT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 1));
+            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), exact(n, dir)), ref::dft_bound<T>(n)) << n << " direction " << dir;
             EXPECT_NEAR(v->delta, 2.0 / n, 2.0 / n * tol<T>());
         }
-    }
 }
 
 // The forward transform of a real vector equals that of the complex vector with
@@ -67,20 +51,14 @@ TYPED_TEST(DftTest, RealInputRdftAndIrdftMatchComplexTransform) {
         std::vector<T> pairs(2 * n, T(0));
         for (int i = 0; i < n; ++i) pairs[2 * i] = x[i];
         Owned<T> c(pairs, true, T(2)), r(x, false, T(2)), rd(x, false, T(2));
-        ASSERT_EQ(api::dft(c.get(), 0), 0);
-        ASSERT_EQ(api::dft(r.get(), 0), 0);
-        EXPECT_TRUE(r->complex);
-        EXPECT_TRUE(near_all(r.scalars(), c.scalars(), 0.0));
-        ASSERT_EQ(api::rdft(rd.get()), 0);
-        ASSERT_EQ(rd->points, n / 2 + 1);
-        EXPECT_TRUE(rd->complex);
+        ASSERT_EQ(api::dft(c.get(), 0) | api::dft(r.get(), 0) | api::rdft(rd.get()), 0);
+        EXPECT_EQ(std::tuple(r.scalars(), r->complex, r->delta), std::tuple(c.scalars(), 1, c->delta));
+        ASSERT_EQ(std::tuple(rd->points, rd->complex, rd->delta), std::tuple(n / 2 + 1, 1, c->delta));
         std::vector<T> half = c.scalars();
         half.resize(2 * (n / 2 + 1));
         EXPECT_TRUE(near_all(rd.scalars(), half, tol<T>(8)));
-        EXPECT_EQ(rd->delta, c->delta);
         ASSERT_EQ(api::irdft(rd.get(), n % 2), 0);
-        EXPECT_FALSE(rd->complex);
-        ASSERT_EQ(rd->points, n);
+        ASSERT_EQ(std::tuple(rd->points, rd->complex), std::tuple(n, 0));
         EXPECT_LE(ref::rms_rel_error(ref::from_reals(rd.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
         EXPECT_NEAR(rd->delta, 2.0, 2.0 * tol<T>());
     }
@@ -90,46 +68,33 @@ TYPED_TEST(DftTest, RealInputRdftAndIrdftMatchComplexTransform) {
 // 1/N; a power-of-two length goes to the FFT, which takes it as inverse.
 TYPED_TEST(DftTest, OtherDirectionValues) {
     using T = TypeParam;
-    const std::vector<T> x = random_pairs<T>(12, 9);
-    Owned<T> a(x, true), b(x, true);
-    ASSERT_EQ(api::dft(a.get(), 0), 0);
-    ASSERT_EQ(api::dft(b.get(), 2), 0);
+    const std::vector<T> x = random_scalars<T>(24, 9), y = random_scalars<T>(32, 9);
+    Owned<T> a(x, true), b(x, true), c(y, true), d(y, true);
+    ASSERT_EQ(api::dft(a.get(), 0) | api::dft(b.get(), 2) | api::dft(c.get(), 1) | api::dft(d.get(), -3), 0);
     std::vector<T> scaled = a.scalars();
     for (T& s : scaled) s *= T(12);
     EXPECT_TRUE(near_all(b.scalars(), scaled, tol<T>(64)));
-
-    const std::vector<T> y = random_pairs<T>(16, 9);
-    Owned<T> c(y, true), d(y, true);
-    ASSERT_EQ(api::dft(c.get(), 1), 0);
-    ASSERT_EQ(api::dft(d.get(), -3), 0);
     EXPECT_EQ(c.scalars(), d.scalars());
 }
 
 template <class T> int frees = 0;
-template <class T> void ZF_CDECL count_free(Vec<T>* v) {
-    ++frees<T>;
-    std::free(v->data);
-}
+template <class T> void ZF_CDECL count_free(Vec<T>* v) { ++frees<T>, std::free(v->data); }
 
 // The chirp state serves one length: the other direction of the same length is
-// derived from it exactly, another length or a release rebuilds it.
+// derived from it exactly, another length or a release rebuilds it. The release
+// goes through the free hook (chirp, filter, DCT staging).
 TYPED_TEST(DftTest, ChirpStateIsReusedAcrossDirectionsAndRebuiltAfterRelease) {
     using T = TypeParam;
-    const std::vector<T> x = random_pairs<T>(100, 21);
-    Owned<T> first(x, true), inv(x, true), again(x, true), pow2(random_pairs<T>(64, 1), true);
-    Owned<T> other(random_pairs<T>(101, 2), true), after(random_pairs<T>(101, 2), true);
+    const std::vector<T> x = random_scalars<T>(200, 21), y = random_scalars<T>(202, 2);
+    Owned<T> first(x, true), inv(x, true), again(x, true), pow2(random_scalars<T>(128, 1), true), other(y, true), after(y, true);
     Owned<T> d(random_scalars<T>(8, 4));  // a power of two: no chirp of its own
     ASSERT_EQ(api::dft(first.get(), 0), 0);
     const int builds = zf::chirp_builds<T>();
-    ASSERT_EQ(api::dft(inv.get(), 1), 0);
-    ASSERT_EQ(api::dft(again.get(), 0), 0);
-    ASSERT_EQ(api::dft(pow2.get(), 0), 0);  // the FFT needs no chirp
+    ASSERT_EQ(api::dft(inv.get(), 1) | api::dft(again.get(), 0) | api::dft(pow2.get(), 0), 0);  // the FFT needs no chirp
     EXPECT_EQ(zf::chirp_builds<T>(), builds);
     EXPECT_EQ(again.scalars(), first.scalars());  // switching direction is exact
     ASSERT_EQ(api::dft(other.get(), 0), 0);
     EXPECT_EQ(zf::chirp_builds<T>(), builds + 1);
-
-    // The release goes through the free hook (chirp, filter, DCT staging).
     ASSERT_EQ(api::dct(d.get(), 0), 0);
     frees<T> = 0;
     api::lib_free(&count_free<T>, nullptr);
@@ -146,16 +111,10 @@ TYPED_TEST(DftTest, ChirpStateIsReusedAcrossDirectionsAndRebuiltAfterRelease) {
 TYPED_TEST(DftTest, OreconMirrorsTheSpectrum) {
     using T = TypeParam;
     const std::vector<T> bins = {1, 0, 2, 3, 4, 5, 6, 7, 8, 0};
-    const struct {
-        std::vector<T> in;
-        bool complex;
-        int odd;
-        std::vector<T> want;
-    } cases[] = {{bins, true, -1, {1, 0, 2, 3, 4, 5, 6, 7, 8, 0, 6, -7, 4, -5, 2, -3}},
-                 {bins, true, 1, {1, 0, 2, 3, 4, 5, 6, 7, 8, 0, 8, 0, 6, -7, 4, -5, 2, -3}},
-                 {{1, 2, 3}, false, 1, {1, 2, 3, 3, 2}},
-                 {{1, 2, 3, 4}, true, 0, {1, 2, 3, 4}},
-                 {{1, 2, 3, 4}, true, 1, {1, 2, 3, 4, 3, -4}}};
+    const struct { std::vector<T> in; bool complex; int odd; std::vector<T> want; } cases[] = {
+        {bins, true, -1, {1, 0, 2, 3, 4, 5, 6, 7, 8, 0, 6, -7, 4, -5, 2, -3}},
+        {bins, true, 1, {1, 0, 2, 3, 4, 5, 6, 7, 8, 0, 8, 0, 6, -7, 4, -5, 2, -3}},
+        {{1, 2, 3}, false, 1, {1, 2, 3, 3, 2}}, {{1, 2, 3, 4}, true, 0, {1, 2, 3, 4}}, {{1, 2, 3, 4}, true, 1, {1, 2, 3, 4, 3, -4}}};
     for (const auto& c : cases) {
         Owned<T> v(c.in, c.complex);
         ASSERT_EQ(c.odd < 0 ? api::recon(v.get()) : api::orecon(v.get(), c.odd), 0);
@@ -163,23 +122,74 @@ TYPED_TEST(DftTest, OreconMirrorsTheSpectrum) {
     }
 }
 
-// Fewer than two points change only the spacing; bad records are refused.
+// Against the direct DFT with the bins turned by ∓90° (Hilbert: DC and the
+// Nyquist bin of an even length cleared) or one-sided (analytic: positive
+// bins doubled, DC and Nyquist kept once), for real and complex input. The
+// Hilbert transform of a real vector stays real, the analytic signal is
+// complex; both keep the spacing.
+TYPED_TEST(DftTest, HilbertAndAnalyticMatchTheTurnedAndOneSidedSpectra) {
+    using T = TypeParam;
+    for (int n : {9, 10, 11, 12, 15, 16, 32, 64, 1000})
+        for (int cx = 0; cx < 2; ++cx) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " complex=" << cx);
+            const std::vector<T> x = random_scalars<T>((1 + cx) * n, 80 + n);
+            auto H = ref::forward(samples(x, cx)), Z = H;
+            for (int k = 0; k < n; ++k) {
+                const int side = k == 0 || 2 * k == n ? 0 : 2 * k < n ? 1 : -1;
+                H[k] *= ref::cld(0, -side);
+                Z[k] *= static_cast<long double>(1 + side);
+            }
+            for (int op = 0; op < 2; ++op) {
+                Owned<T> v(x, cx, T(0.1));
+                ASSERT_EQ(op ? api::analytic(v.get()) : api::hilbert(v.get()), 0);
+                EXPECT_EQ(std::tuple(v->points, v->complex), std::tuple(n, int(op || cx)));
+                EXPECT_NEAR(v->delta, 0.1, 0.1 * tol<T>());
+                EXPECT_LE(ref::rms_rel_error(samples(v.scalars(), op || cx), ref::inverse(op ? Z : H)), 2 * ref::dft_bound<T>(n)) << op;
+            }
+        }
+}
+
+// The DCT at odd, even, power-of-two and chirp-z lengths, and more than 256
+// twiddles; plain and orthonormal scaling. The inverse restores the input and spacing.
+TYPED_TEST(DftTest, DctMatchesDirectDctAndInverseUndoesIt) {
+    using T = TypeParam;
+    for (int n : {1, 2, 3, 5, 8, 12, 100, 257, 1024, 1500})
+        for (int flags : {0, 2}) {
+            SCOPED_TRACE(::testing::Message() << "n=" << n << " flags=" << flags);
+            const std::vector<T> x = random_scalars<T>(n, 40 + n);
+            const auto want = ref::dct(std::vector<long double>(x.begin(), x.end()), flags == 2);
+            Owned<T> v(x, false, T(0.5));
+            ASSERT_EQ(api::dct(v.get(), flags), 0);
+            ASSERT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 0));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), std::vector<ref::cld>(want.begin(), want.end())), ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 1.0 / n, tol<T>() / n);  // 1/(2N·0.5)
+            ASSERT_EQ(api::dct(v.get(), flags | 1), 0);
+            ASSERT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 0));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::from_reals(x)), 2 * ref::dft_bound<T>(n));
+            EXPECT_NEAR(v->delta, 0.5, 0.5 * tol<T>());
+        }
+}
+
+// Fewer than two points change only the spacing (a spacing of 0 becomes
+// huge; the DCT of nothing takes 1/(2N·delta) with N = 1). One sample has no
+// frequency but DC: its Hilbert transform is 0, its analytic signal the
+// sample. Unreadable records are refused; rdft and the DCT refuse complex input.
 TYPED_TEST(DftTest, ShortAndBadRecords) {
     using T = TypeParam;
-    Owned<T> one(std::vector<T>{T(3)}, false, T(4)), empty;
-    ASSERT_EQ(api::dft(one.get(), 0), 0);
-    EXPECT_FALSE(one->complex);
-    EXPECT_EQ(one.scalars(), std::vector<T>{T(3)});
-    EXPECT_EQ(one->delta, T(0.25));
+    Owned<T> one(std::vector<T>{T(3)}, false, T(4)), empty, nothing, h(std::vector<T>{T(2.5)}), a(std::vector<T>{T(2.5)});
+    Owned<T> c(random_scalars<T>(12, 1), true);
+    empty->delta = T(0), nothing->delta = T(4);
+    ASSERT_EQ(api::dft(one.get(), 0) | api::dft(empty.get(), 1) | api::hilbert(nothing.get()) | api::analytic(nothing.get()), 0);
+    EXPECT_EQ(std::tuple(one.scalars(), one->complex, one->delta), std::tuple(std::vector<T>{T(3)}, 0, T(0.25)));
+    EXPECT_EQ(std::tuple(empty->points, empty->delta), std::tuple(0, Traits<T>::huge));
     empty->delta = T(0);
-    ASSERT_EQ(api::dft(empty.get(), 1), 0);
-    EXPECT_EQ(empty->delta, Traits<T>::huge);
-    EXPECT_EQ(empty->points, 0);
+    ASSERT_EQ(api::dct(nothing.get(), 0) | api::dct(empty.get(), 0) | api::hilbert(h.get()) | api::analytic(a.get()), 0);
+    EXPECT_EQ(std::tuple(nothing->points, nothing->delta, empty->delta), std::tuple(0, T(0.125), Traits<T>::huge));
+    EXPECT_EQ(std::tuple(h.scalars(), a.scalars()), std::tuple(std::vector<T>{T(0)}, std::vector<T>{T(2.5), T(0)}));
     for (auto f : {+[](Vec<T>* v) { return api::dft(v, 0); }, api::rdft, +[](Vec<T>* v) { return api::irdft(v, 1); },
-                   +[](Vec<T>* v) { return api::orecon(v, 0); }, api::recon})
+                   +[](Vec<T>* v) { return api::orecon(v, 0); }, api::recon, api::hilbert, api::analytic, +[](Vec<T>* v) { return api::dct(v, 0); }})
         expect_refuses_unreadable<T>(f);
-    Owned<T> c(random_pairs<T>(6, 1), true);
-    EXPECT_EQ(api::rdft(c.get()), -1);  // complex input
+    EXPECT_EQ(api::rdft(c.get()) + api::dct(c.get(), 0) + api::dct(c.get(), 1), -3);
 }
 
 }  // namespace

@@ -35,9 +35,6 @@ template <class T> double tolerance(const ref::Shape& s, int flags) {
 TYPED_TEST(WindowTest, EveryKindAndItsScaleMatchTheirFormulas) {
     using T = TypeParam;
     const auto cat = ref::catalogue();
-    const auto window2 = api::pick<T>(dspi_window2, dspfi_window2), window = api::pick<T>(dspi_window, dspfi_window);
-    const auto scale = api::pick<T>(dsp_window2_scale, dspf_window2_scale);
-    const auto enbw = api::pick<T>(dsp_window_enbw, dspf_window_enbw), enbw2 = api::pick<T>(dsp_window2_enbw, dspf_window2_enbw);
     const auto sum = [](const std::vector<LD>& w) { return std::accumulate(w.begin(), w.end(), LD(0)); };
     unsigned seed = 0;
     for (int kind = 0; kind < 25; ++kind)
@@ -50,18 +47,18 @@ TYPED_TEST(WindowTest, EveryKindAndItsScaleMatchTheirFormulas) {
                                                   ref::window(cat[kind], n, opt | 2, width)};
                     for (int norm = 0; norm < 3; ++norm) {
                         const int turn = ++seed % 2 ? 32 : 16;   // no rotation, or (for kind 0) rotation
-                        check<T>([&](Vec<T>* v) { return window2(v, kind, opt | norm | turn, T(width)); }, w[norm], turn == 16,
+                        check<T>([&](Vec<T>* v) { return api::window2(v, kind, opt | norm | turn, T(width)); }, w[norm], turn == 16,
                                  tolerance<T>(cat[kind], norm), seed);
-                        if (opt != 8) check<T>([&](Vec<T>* v) { return window(v, kind, opt | norm); }, w[norm], kind != 0, tolerance<T>(cat[kind], norm), seed);
+                        if (opt != 8) check<T>([&](Vec<T>* v) { return api::window(v, kind, opt | norm); }, w[norm], kind != 0, tolerance<T>(cat[kind], norm), seed);
                     }
                     if (sum(w[2]) < 1e-6) continue;   // a window of (nearly) nothing has no scale
                     const double rel = std::max(2e-6, tol<T>(256)), a = sum(w[0]) / sum(w[2]), r = sum(w[1]) / sum(w[2]);
                     T got[3];
-                    ASSERT_EQ(scale(&got[0], kind, opt, n, T(width)) + scale(&got[1], kind, opt | 1, n, T(width)), 0);
+                    ASSERT_EQ(api::window2_scale(&got[0], kind, opt, n, T(width)) + api::window2_scale(&got[1], kind, opt | 1, n, T(width)), 0);
                     EXPECT_NEAR(got[0], a, rel * a);
                     EXPECT_NEAR(got[1], r, rel * r);
                     if (opt == 4) continue;   // the noise bandwidth is that of the periodic window
-                    ASSERT_EQ(opt == 0 ? enbw(&got[2], kind, n) : enbw2(&got[2], kind, n, T(width)), 0);
+                    ASSERT_EQ(opt == 0 ? api::window_enbw(&got[2], kind, n) : api::window2_enbw(&got[2], kind, n, T(width)), 0);
                     EXPECT_NEAR(got[2], a * a / (r * r), rel * a * a / (r * r));
                 }
 }
@@ -69,7 +66,6 @@ TYPED_TEST(WindowTest, EveryKindAndItsScaleMatchTheirFormulas) {
 TYPED_TEST(WindowTest, ParametrisedAndFirWindowsMatchTheirFormulas) {
     using T = TypeParam;
     const LD pi = 3.141592653589793238L;
-    const auto fir = api::pick<T>(dspi_window_fir, dspfi_window_fir);
     for (const ref::Shape& s : {ref::Shape{'k', 5}, {'k', 0}, {'g', 0.2L}, {'g', 0}, {'s', 2, 1.5L}, {'s', 1, 2}, {'y', 0.5L}, {'y', 0}})
         for (int flags : {0, 1, 2, 4, 5, 6, 38})
             for (int n : {1, 2, 7, 8, 64}) {
@@ -85,21 +81,19 @@ TYPED_TEST(WindowTest, ParametrisedAndFirWindowsMatchTheirFormulas) {
         const LD k = x <= 1.25L ? 0.386L / x + 0.453L : x < 5 ? 0.774L - 0.0251L * x : 0.648L;
         for (const auto& [kind, s] : {std::pair(100, ref::Shape{'g', 1 / (n * pi * p)}), {101, {'k', beta}},
                                       {102, {'s', pi / 2 / 0.62L, n * p * 0.62L}}, {103, {'s', pi / 2 / k, x * k}}})
-            check<T>([&](Vec<T>* v) { return fir(v, kind, T(p)); }, ref::window(s, n, 6), false, tol<T>(256), kind);
+            check<T>([&](Vec<T>* v) { return api::window_fir(v, kind, T(p)); }, ref::window(s, n, 6), false, tol<T>(256), kind);
     }
-    check<T>([&](Vec<T>* v) { return fir(v, 100, T(0)); }, std::vector<LD>(n, 1), false, 0, 1);
-    check<T>([&](Vec<T>* v) { return fir(v, 20, T(0)); }, ref::window(ref::catalogue()[20], n, 6), false, tol<T>(64), 1);
+    check<T>([&](Vec<T>* v) { return api::window_fir(v, 100, T(0)); }, std::vector<LD>(n, 1), false, 0, 1);
+    check<T>([&](Vec<T>* v) { return api::window_fir(v, 20, T(0)); }, ref::window(ref::catalogue()[20], n, 6), false, tol<T>(64), 1);
     // Caller's cosine coefficients, used as given and always rotated.
     Owned<T> coef({T(0.3), T(0.4), T(0.2), T(0.1)});
     for (int m : {1, 3, 8, 100})
-        check<T>([&](Vec<T>* v) { return api::pick<T>(dspi_window_cos, dspfi_window_cos)(v, coef.get()); },
+        check<T>([&](Vec<T>* v) { return api::window_cos(v, coef.get()); },
                  ref::window({'c', 0, 0, {0.3L, 0.4L, 0.2L, 0.1L}}, m, 2), true, tol<T>(16), m);
 }
 
 TYPED_TEST(WindowTest, RefusalsLeaveTheVectorUnchanged) {
     using T = TypeParam;
-    const auto window2 = api::pick<T>(dspi_window2, dspfi_window2);
-    const auto cos = api::pick<T>(dspi_window_cos, dspfi_window_cos);
     const std::vector<T> in{T(1), T(2), T(3), T(4)};
     Owned<T> cx(in, true), coef({T(0.5), T(0.5)}), ccoef({T(0.5), T(0.5)}, true), v(in), empty;
     const std::tuple<int, int, char> refused[] = {   // kind, flags, entry (window2, window, fir, shape)
@@ -108,27 +102,23 @@ TYPED_TEST(WindowTest, RefusalsLeaveTheVectorUnchanged) {
     for (const auto& [kind, flags, entry] : refused)
         for (Vec<T>* r : {v.get(), cx.get(), static_cast<Vec<T>*>(nullptr)}) {   // complex: refused for kind 0 too
             if (entry == 'c' && r == v.get()) continue;
-            EXPECT_EQ(entry == 'w' ? window2(r, kind, flags, T(2)) : entry == 'W' ? api::pick<T>(dspi_window, dspfi_window)(r, kind, flags)
-                      : entry == 'f' ? api::pick<T>(dspi_window_fir, dspfi_window_fir)(r, kind, T(0))
-                      : entry == 's' ? api::window_shape<T>(r, char(kind), T(1), T(1), flags) : window2(r, kind, flags, T(0)), -1);
+            EXPECT_EQ(entry == 'w' ? api::window2(r, kind, flags, T(2)) : entry == 'W' ? api::window(r, kind, flags)
+                      : entry == 'f' ? api::window_fir(r, kind, T(0))
+                      : entry == 's' ? api::window_shape<T>(r, char(kind), T(1), T(1), flags) : api::window2(r, kind, flags, T(0)), -1);
             EXPECT_EQ(v.scalars(), in) << kind << " " << flags;
         }
-    const auto scale = api::pick<T>(dsp_window2_scale, dspf_window2_scale);
-    const auto enbw = api::pick<T>(dsp_window_enbw, dspf_window_enbw), enbw2 = api::pick<T>(dsp_window2_enbw, dspf_window2_enbw);
-    T s = T(-7);
-    EXPECT_EQ(scale(&s, 99, 2, 8, T(0)) + scale(&s, 99, 0, 0, T(0)), 0);   // peak or no points: 1 without further checks
+    T s = T(-7), *none = nullptr;
+    EXPECT_EQ(api::window2_scale(&s, 99, 2, 8, T(0)) + api::window2_scale(&s, 99, 0, 0, T(0)), 0);   // peak or no points: 1 without further checks
     EXPECT_EQ(s, T(1));
     for (auto [kind, flags] : {std::pair(2, 3), {25, 0}, {-1, 1}, {1, 8}, {14, 9}, {2, 12}}) {
-        EXPECT_EQ(scale(&s, kind, flags, 8, T(4)), -1) << kind << " " << flags;
-        if (kind != 2) EXPECT_EQ(flags & 8 ? enbw2(&s, kind, 8, T(4)) : enbw(&s, kind, 8), -1) << kind;
+        EXPECT_EQ(api::window2_scale(&s, kind, flags, 8, T(4)), -1) << kind << " " << flags;
+        if (kind != 2) EXPECT_EQ(flags & 8 ? api::window2_enbw(&s, kind, 8, T(4)) : api::window_enbw(&s, kind, 8), -1) << kind;
     }
     EXPECT_EQ(s, T(1));   // untouched by the refusals
-    EXPECT_EQ(scale(nullptr, 2, 0, 8, T(0)) + enbw(nullptr, 2, 8) + enbw2(nullptr, 2, 8, T(4)), -3);
-    EXPECT_EQ(api::pick<T>(dsp_window_scale, dspf_window_scale)(&s, 2, 8, 8), -1);
-    EXPECT_EQ(cos(cx.get(), coef.get()), -1);
-    EXPECT_EQ(cos(v.get(), ccoef.get()), -1);
-    EXPECT_EQ(window2(empty.get(), 9, 0, T(0)), 0);   // no samples: nothing to do
-    EXPECT_EQ(cos(empty.get(), coef.get()), 0);
-    EXPECT_EQ(window2(v.get(), 0, 4 | 16, T(0)), 0);   // kind 0 without width only rotates, symmetric or not
+    EXPECT_EQ(api::window2_scale(none, 2, 0, 8, T(0)) + api::window_enbw(none, 2, 8) + api::window2_enbw(none, 2, 8, T(4)), -3);
+    EXPECT_EQ(api::window_scale(&s, 2, 8, 8), -1);
+    EXPECT_EQ(api::window_cos(cx.get(), coef.get()) + api::window_cos(v.get(), ccoef.get()), -2);
+    EXPECT_EQ(api::window2(empty.get(), 9, 0, T(0)) + api::window_cos(empty.get(), coef.get()), 0);   // no samples: nothing to do
+    EXPECT_EQ(api::window2(v.get(), 0, 4 | 16, T(0)), 0);   // kind 0 without width only rotates, symmetric or not
     EXPECT_EQ(v.scalars(), (std::vector<T>{T(3), T(4), T(1), T(2)}));
 }

@@ -13,12 +13,12 @@ TYPED_TEST(WindowCacheTest, HitsReplacesCyclicallyAndReleases) {
     using H = CountingHooks<T>;
     const auto hann = ref::catalogue()[2];
     Owned<T> v(std::vector<T>(40, T(1)));   // room for every length: only windows allocate below
-    ASSERT_EQ(api::pick<T>(dsp_free_internal, dspf_free_internal)(), 0);
+    ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
     typename H::Installed hooks;
     auto request = [&](int n) {   // windows n ones; returns the blocks allocated
         v.set(std::vector<T>(n, T(1)));
         const int before = H::allocs;
-        EXPECT_EQ(api::pick<T>(dspi_window, dspfi_window)(v.get(), 2, 1 | 32), 0);
+        EXPECT_EQ(api::window(v.get(), 2, 1 | 32), 0);
         EXPECT_TRUE(near_all(v.scalars(), ref::window(hann, n, 1), tol<T>(64))) << n;
         return H::allocs - before;
     };
@@ -27,16 +27,16 @@ TYPED_TEST(WindowCacheTest, HitsReplacesCyclicallyAndReleases) {
     EXPECT_EQ(request(25), 1);                                     // the next miss replaces slot 1 (9 points)
     for (int n = 10; n <= 25; ++n) EXPECT_EQ(request(n), 0) << n;
     EXPECT_EQ(H::live, 16);
-    EXPECT_EQ(api::pick<T>(dsp_free_internal, dspf_free_internal)(), 0);
+    EXPECT_EQ(api::free_internal<Vec<T>>(), 0);
     EXPECT_EQ(H::live, 0);
     EXPECT_EQ(request(9), 1);                                      // rebuilt after the release
     v.set(std::vector<T>(30, T(1)));
     H::fail_at = H::calls + 1;                                     // the next generation fails ...
-    EXPECT_EQ(api::pick<T>(dspi_window, dspfi_window)(v.get(), 2, 1), -1);
+    EXPECT_EQ(api::window(v.get(), 2, 1), -1);
     EXPECT_EQ(v.scalars(), std::vector<T>(30, T(1)));
     EXPECT_EQ(request(30), 1);                                     // ... and leaves no window under its key
     H::fail_at = H::calls + 1;                                     // so does the temporary of a parametrised window
     EXPECT_EQ(api::window_shape<T>(v.get(), 'k', T(5), T(0), 0), -1);
-    EXPECT_EQ(api::pick<T>(dsp_free_internal, dspf_free_internal)(), 0);
+    EXPECT_EQ(api::free_internal<Vec<T>>(), 0);
     EXPECT_EQ(H::live, 0);
 }
