@@ -7,14 +7,10 @@
 #include "support/vectors.hpp"
 
 using namespace zt;
-using Cl = std::complex<long double>;
+using Cl = Cx;
 
 // A record's samples as complex numbers; coefficients of prod (x - r) lowest power first.
-template <class T> std::vector<Cl> samples(const Owned<T>& v) {
-    std::vector<Cl> z;
-    for (int k = 0; k < v.v.points; ++k) z.push_back(v.v.complex ? Cl(v.v.data[2 * k], v.v.data[2 * k + 1]) : Cl(v.v.data[k]));
-    return z;
-}
+template <class T> std::vector<Cl> samples(const Owned<T>& v) { return samples(v.scalars(), v.v.complex); }
 std::vector<Cl> product(const std::vector<Cl>& r) {
     std::vector<Cl> c{1};
     for (Cl z : r) {
