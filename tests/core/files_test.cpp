@@ -277,12 +277,23 @@ TYPED_TEST(FilesTest, AsciiReads) {
 }
 
 // "-" names the standard streams, which closing leaves open.
-TEST(FilesStreams, DashNamesTheStandardStreams) {
+TEST(FilesStreams, DashNamesTheStandardStreamsOtherNamesOpenFiles) {
     EXPECT_EQ(std::tuple(dspf_fopen("-", "rb"), dspff_fopen("-", "r"), dspf_fopen("-", "wb"), dspff_fopen("-", "w+b")),
               std::tuple(stdin, stdin, stdout, stdout));
     EXPECT_EQ(std::tuple(dspf_fopen("-", "a"), dspf_fopen("-", ""), dspf_fopen(nullptr, "r")), std::tuple(nullptr, nullptr, nullptr));
     EXPECT_EQ(dspf_fclose(stdin) + dspff_fclose(stdout) + dspf_fclose(nullptr), -1);
     EXPECT_EQ(std::fflush(stdout), 0);  // still open
-    // Any other name goes to the C library (the README's C example opens one).
-    EXPECT_EQ(dspf_fopen((::testing::TempDir() + "missing/x.vec").c_str(), "rb"), nullptr);
+    // Any other name goes to the C library, and closing it flushes and closes it.
+    const std::string path = ::testing::TempDir() + "zifaif_files_test.vec";
+    FILE* f = dspf_fopen(path.c_str(), "w");
+    ASSERT_NE(f, nullptr);
+    std::fputs("7 8\n", f);
+    EXPECT_EQ(dspf_fclose(f), 0);
+    Owned<float> back;
+    ASSERT_NE(f = dspff_fopen(path.c_str(), "r"), nullptr);
+    EXPECT_EQ(dspff_fread(&back.v, f), 1);
+    EXPECT_EQ(dspff_fclose(f), 0);
+    EXPECT_EQ(back.scalars(), (std::vector<float>{7, 8}));
+    std::remove(path.c_str());
+    EXPECT_EQ(dspf_fopen((path + ".missing/x").c_str(), "rb"), nullptr);
 }
