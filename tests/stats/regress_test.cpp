@@ -51,8 +51,9 @@ TYPED_TEST(Analysis, RegressionMatchesTheClosedForm) {
     EXPECT_TRUE(near_all(ys.scalars(), want, tol<T>(64)));
     ASSERT_EQ(api::lin_regres(flat.get(), out.get()), 0);   // no spread in y: r = 0
     EXPECT_EQ(out.scalars(), std::vector<T>({T(0), T(2), T(0)}));
-    // Refused: delta 0, equal abscissae, unequal lengths.
+    // Refused: delta 0, equal abscissae, unequal lengths, complex samples.
+    Owned<T> cx({T(1), T(2), T(3), T(4)}, true), two({T(1), T(3)});
     EXPECT_EQ(api::lin_regres(still.get(), keep.get()) + api::lin_regres2(flat.get(), flat.get(), keep.get()) +
-              api::lin_regres2(xs.get(), flat.get(), keep.get()), -3);
+              api::lin_regres2(xs.get(), flat.get(), keep.get()) + api::lin_regres2(cx.get(), two.get(), keep.get()) + api::lin_regres(cx.get(), keep.get()), -5);
     EXPECT_EQ(keep.scalars(), std::vector<T>({T(7)}));
 }
