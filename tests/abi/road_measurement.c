@@ -38,12 +38,8 @@ int main(int argc, char **argv) {
     int b, k, peak = 0, bins = 0;
     FILE *f;
 
-    dsp_init(&block);
-    dsp_init(&spectrum);
-    dsp_init(&average);
-    block.data = samples; /* alloc 0: the array stays the caller's */
-    block.points = N;
-    block.delta = 1 / fs;
+    dsp_init(&block); dsp_init(&spectrum); dsp_init(&average);
+    block.data = samples; block.points = N; block.delta = 1 / fs; /* alloc 0: the array stays the caller's */
     for (b = 0; b < BLOCKS; ++b) {
         for (k = 0; k < N; ++k)
             samples[k] = a * sin(2 * pi * f0 * (b * N + k) / fs) + sigma * noise(&seed);
@@ -70,8 +66,7 @@ int main(int argc, char **argv) {
 
     f = dspf_fopen(path, "wb");
     if (!f || dspf_fwrite(&average, f) != 0 || dspf_fclose(f) != 0) return 1;
-    dsp_destroy(&spectrum);
-    dsp_destroy(&average);
+    dsp_destroy(&spectrum); dsp_destroy(&average);
     /* One side holds half the amplitude: (a/2)^2. The mean of decibels lies
      * 2.51 dB below the decibels of the mean for noise power. */
     return fabs(level - 20 * log10(a / 2)) < 0.02 && fabs(density + 2.51 - 10 * log10(sigma * sigma / fs)) < 0.5 ? 0 : 1;

@@ -5,11 +5,11 @@
 
 #include "core/files.hpp"
 
-#include <cfloat>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <string>
 #include <type_traits>
 
@@ -24,10 +24,7 @@ template <class V> int read(V* v, FILE* f) { return zf::fread<Real<V>>(v, f); }
 template <class V> int write2(const V* v, FILE* f, int flags) { return zf::fwrite2<Real<V>>(v, f, flags); }
 
 // Stops the run with a message: libFuzzer records the input that got here.
-[[noreturn]] inline void fail(const char* what) {
-    std::fprintf(stderr, "fuzz check failed: %s\n", what);
-    std::abort();
-}
+[[noreturn]] inline void fail(const char* what) { std::fprintf(stderr, "fuzz check failed: %s\n", what), std::abort(); }
 
 // A read-only stream over bytes (fmemopen refuses an empty buffer).
 inline FILE* open_bytes(const void* data, std::size_t size) {
@@ -56,28 +53,23 @@ template <class V> int read_back(const std::string& bytes, V& out) {
 }
 
 // Same shape, and scalars equal: bit for bit when exact, else within the
-// digits the ASCII form keeps (a NaN reads back as a NaN, an infinity as itself).
+// digits the ASCII form keeps (a NaN reads back as a NaN, an infinity as
+// itself; sixteen digits of a value within one part in 1e16 of the largest
+// double print above it, and that text reads as an infinity).
 template <class V> bool same(const V& a, const V& b, bool exact) {
-    if (a.points != b.points || (a.complex != 0) != (b.complex != 0)) return false;
-    const double rel = sizeof(*a.data) == 8 ? 1e-15 : 1e-6;
-    const double tiny = sizeof(*a.data) == 8 ? 2.3e-308 : 1.2e-38;
-    const double top = sizeof(*a.data) == 8 ? DBL_MAX : FLT_MAX;
+    using T = Real<V>;
+    const double rel = sizeof(T) == 8 ? 1e-15 : 1e-6, tiny = std::numeric_limits<T>::min(), top = std::numeric_limits<T>::max();
     auto eq = [&](double x, double y) {
         if (std::isnan(x) || std::isnan(y)) return std::isnan(x) && std::isnan(y);
-        if (x == y) return true;  // infinities included
-        // Sixteen digits of a value within one part in 1e16 of the largest
-        // double print above it, and that text reads as an infinity.
         if (std::isinf(y) && std::fabs(x) > top / (1 + rel)) return (x > 0) == (y > 0);
-        return std::fabs(x - y) <= rel * std::fabs(x) + tiny;
+        return x == y || std::fabs(x - y) <= rel * std::fabs(x) + tiny;
     };
     const std::size_t n = static_cast<std::size_t>(a.points) * (a.complex ? 2 : 1);
-    if (exact)
-        return std::memcmp(&a.delta, &b.delta, sizeof a.delta) == 0 &&
-               (n == 0 || std::memcmp(a.data, b.data, n * sizeof *a.data) == 0);
-    if (!eq(a.delta, b.delta)) return false;
-    for (std::size_t k = 0; k < n; ++k)
-        if (!eq(a.data[k], b.data[k])) return false;
-    return true;
+    if (a.points != b.points || (a.complex != 0) != (b.complex != 0)) return false;
+    if (exact) return std::memcmp(&a.delta, &b.delta, sizeof(T)) == 0 && (n == 0 || std::memcmp(a.data, b.data, n * sizeof(T)) == 0);
+    bool all = eq(a.delta, b.delta);
+    for (std::size_t k = 0; k < n; ++k) all = all && eq(a.data[k], b.data[k]);
+    return all;
 }
 
 // Writes v in the binary and in the ASCII form and reads each back: the binary

@@ -36,23 +36,20 @@ template <class V, class T> void vectors(const char* tag) {
     for (int complex = 0; complex < 2; ++complex) {
         V v;
         fz::init(&v);
-        v.points = 4;
-        v.complex = complex;
-        v.delta = T(0.125);
+        v.points = 4, v.complex = complex, v.delta = T(0.125);
         v.data = const_cast<T*>(special);  // wraps the array; alloc stays 0
-        const std::string name = std::string(tag) + (complex ? "_complex" : "_real");
-        const std::string bin = fz::written(v, 0);
-        save("read/" + name + ".bin", bin);
-        save("read/" + name + "_swapped.bin", swapped(bin, sizeof(T)));
-        save("read/" + name + "_older.bin", older(bin, sizeof(T)));
-        save("read/" + name + "_older_swapped.bin", swapped(older(bin, sizeof(T)), sizeof(T)));
-        save("read/" + name + ".txt", fz::written(v, 1));
-        save("read/" + name + "_stream", bin + fz::written(v, 1) + swapped(bin, sizeof(T)));
+        const std::string name = "read/" + std::string(tag) + (complex ? "_complex" : "_real"), bin = fz::written(v, 0);
+        save(name + ".bin", bin);
+        save(name + "_swapped.bin", swapped(bin, sizeof(T)));
+        save(name + "_older.bin", older(bin, sizeof(T)));
+        save(name + "_older_swapped.bin", swapped(older(bin, sizeof(T)), sizeof(T)));
+        save(name + ".txt", fz::written(v, 1));
+        save(name + "_stream", bin + fz::written(v, 1) + swapped(bin, sizeof(T)));
         v.points = 8 / (complex + 1);
-        save("number/" + name + "_body.txt", fz::written(v, 0x101));  // the samples without header
+        save("number" + name.substr(4) + "_body.txt", fz::written(v, 0x101));  // the samples without header
         v.points = 0;
-        save("read/" + name + "_empty.bin", fz::written(v, 0));
-        save("read/" + name + "_empty.txt", fz::written(v, 1));
+        save(name + "_empty.bin", fz::written(v, 0));
+        save(name + "_empty.txt", fz::written(v, 1));
     }
 }
 

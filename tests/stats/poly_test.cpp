@@ -7,17 +7,12 @@
 #include "support/vectors.hpp"
 
 using namespace zt;
-using Cl = std::complex<long double>;
 
 // A record's samples as complex numbers; coefficients of prod (x - r) lowest power first.
-template <class T> std::vector<Cl> samples(const Owned<T>& v) {
-    std::vector<Cl> z;
-    for (int k = 0; k < v.v.points; ++k) z.push_back(v.v.complex ? Cl(v.v.data[2 * k], v.v.data[2 * k + 1]) : Cl(v.v.data[k]));
-    return z;
-}
-std::vector<Cl> product(const std::vector<Cl>& r) {
-    std::vector<Cl> c{1};
-    for (Cl z : r) {
+template <class T> std::vector<Cx> samples(const Owned<T>& v) { return samples(v.scalars(), v.v.complex); }
+std::vector<Cx> product(const std::vector<Cx>& r) {
+    std::vector<Cx> c{1};
+    for (Cx z : r) {
         c.push_back(0);
         for (std::size_t k = c.size() - 1; k > 0; --k) c[k] = c[k - 1] - z * c[k];
         c[0] *= -z;
@@ -25,10 +20,10 @@ std::vector<Cl> product(const std::vector<Cl>& r) {
     return c;
 }
 // Largest distance from a wanted root to the nearest found one.
-double worst(const std::vector<Cl>& got, const std::vector<Cl>& want) {
+double worst(const std::vector<Cx>& got, const std::vector<Cx>& want) {
     double w = got.size() == want.size() ? 0 : 1e300;
-    for (Cl r : want)
-        w = std::max(w, double(std::abs(*std::min_element(got.begin(), got.end(), [r](Cl a, Cl b) { return std::abs(a - r) < std::abs(b - r); }) - r)));
+    for (Cx r : want)
+        w = std::max(w, double(std::abs(*std::min_element(got.begin(), got.end(), [r](Cx a, Cx b) { return std::abs(a - r) < std::abs(b - r); }) - r)));
     return w;
 }
 
@@ -41,9 +36,9 @@ TYPED_TEST(Poly, EvaluationMatchesDirectPowersForEveryForm) {
         Owned<T> p(random_scalars<T>(form & 1 ? 12 : 6, 3), form & 1), x(random_scalars<T>(form & 2 ? 10 : 5, 4, -1.5, 1.5), form & 2), out;
         ASSERT_EQ(api::peval(p.get(), x.get(), out.get()), 0);
         std::vector<double> want;
-        for (Cl t : samples(x)) {
-            Cl s = 0, power = 1;
-            for (Cl c : samples(p)) s += c * power, power *= t;
+        for (Cx t : samples(x)) {
+            Cx s = 0, power = 1;
+            for (Cx c : samples(p)) s += c * power, power *= t;
             want.insert(want.end(), {double(s.real()), double(s.imag())});
             if (!form) want.pop_back();
         }
@@ -56,9 +51,9 @@ TYPED_TEST(Poly, EvaluationMatchesDirectPowersForEveryForm) {
 TYPED_TEST(Poly, RootsAndCoefficientsRoundTrip) {
     using T = TypeParam;
     Owned<T> v(random_scalars<T>(14, 8), true), back;
-    const std::vector<Cl> r = samples(v);
+    const std::vector<Cx> r = samples(v);
     std::vector<double> c;
-    for (Cl z : product(r)) c.insert(c.end(), {double(z.real()), double(z.imag())});
+    for (Cx z : product(r)) c.insert(c.end(), {double(z.real()), double(z.imag())});
     ASSERT_EQ(api::pztoc(v.get()), 0);
     EXPECT_TRUE(near_all(v.scalars(), c, tol<T>(40)));
     ASSERT_EQ(api::proots(v.get(), back.get()), 0);
@@ -75,12 +70,12 @@ TYPED_TEST(Poly, RootsAndCoefficientsRoundTrip) {
 TYPED_TEST(Poly, IllConditionedAndMultipleRoots) {
     using T = TypeParam;
     const bool dbl = sizeof(T) == 8;
-    std::vector<Cl> wilk, cluster{1, 2.0L, -2, 3}, multiple{1, 1, 1, -2, 0.5};
+    std::vector<Cx> wilk, cluster{1, 2.0L, -2, 3}, multiple{1, 1, 1, -2, 0.5};
     for (int k = 1; k <= (dbl ? 20 : 7); ++k) wilk.push_back(k);
     for (int k = 1; k < 5; ++k) cluster.push_back(1 + k * (dbl ? 1e-3L : 0.1L));
     for (auto [roots, limit] : {std::pair{&wilk, dbl ? 1e-3 : 1e-2}, {&cluster, dbl ? 1e-3 : 1e-2}, {&multiple, 1e-6}}) {
         std::vector<T> c;
-        for (Cl z : product(*roots)) c.push_back(static_cast<T>(z.real()));
+        for (Cx z : product(*roots)) c.push_back(static_cast<T>(z.real()));
         Owned<T> p(c), out;
         ASSERT_EQ(api::proots(p.get(), out.get()), 0);
         EXPECT_LT(worst(samples(out), *roots), limit) << roots->size() << " roots";

@@ -16,8 +16,7 @@ template <class V> auto shape(const V& v) { return std::tuple(v.points, v.comple
 template <class T> Vec<T> borrow(T* data, int points) {
     Vec<T> v;
     api::init(&v);
-    v.data = data;
-    v.points = points;
+    v.data = data, v.points = points;
     return v;
 }
 
@@ -37,9 +36,9 @@ template <class T> struct CountingHooks {
     static bool fail_now() { return ++calls == fail_at; }
     static void ZF_CDECL alloc(Vec<T>* v) {
         ++allocs;
-        if (v->alloc > 0) { std::free(v->data); --live; }
+        if (v->alloc > 0) std::free(v->data), --live;
         v->data = fail_now() ? nullptr : static_cast<T*>(std::malloc(zf::need<T>(*v) * sizeof(T)));
-        if (v->data) ++live;
+        live += v->data != nullptr;
     }
     static void ZF_CDECL realloc(Vec<T>* v, int, int) {
         ++reallocs;
@@ -56,10 +55,7 @@ template <class T> struct CountingHooks {
     }
     // Installs the hooks for the life of the object, failing the fail-th call.
     struct Installed {
-        explicit Installed(int fail = 0) {
-            allocs = reallocs = frees = calls = 0; live = 0; fail_at = fail;
-            install(true);
-        }
+        explicit Installed(int fail = 0) { allocs = reallocs = frees = calls = 0, live = 0, fail_at = fail, install(true); }
         ~Installed() { install(false); }
     };
 };

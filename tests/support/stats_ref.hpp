@@ -1,13 +1,14 @@
 // Plain references for the descriptive statistics: textbook formulas in long
-// double (two-pass central moments, direct sums, sorting), written without the
-// shifts, blocks and guards of the library so that they check it independently.
-// Each takes the scalars of a vector (pairs when complex) and returns the
-// result's scalars (two when the result is complex).
+// double (two-pass central moments, direct sums and products, sorting),
+// written without the shifts, blocks and guards of the library so that they
+// check it independently.
 #pragma once
 
 #include <algorithm>
 #include <cmath>
 #include <complex>
+#include <string>
+#include <tuple>
 #include <vector>
 
 #include "support/vectors.hpp"
@@ -18,118 +19,41 @@ using L = long double;
 using R = std::vector<L>;
 using C = std::complex<L>;
 
-using zt::samples;
-inline R result(C z, bool complex) { return complex ? R{z.real(), z.imag()} : R{z.real()}; }
 inline L norm2(C z) { return z.real() * z.real() + z.imag() * z.imag(); }
 
-template <class T> R sum(const std::vector<T>& s, bool complex) {
-    C acc = 0;
-    for (C z : samples(s, complex)) acc += z;
-    return result(acc, complex);
-}
-
-template <class T> R mean(const std::vector<T>& s, bool complex) {
-    const std::size_t n = samples(s, complex).size();
-    R r = sum(s, complex);
-    for (L& x : r) x = n ? x / L(n) : 0;
-    return r;
-}
-
-// The first sample of smallest (sign -1) or largest (sign 1) value, or of
-// squared magnitude when complex.
-template <class T> R extreme(const std::vector<T>& s, bool complex, int sign) {
-    const auto z = samples(s, complex);
-    auto key = [&](C x) { return sign * (complex ? norm2(x) : x.real()); };
-    C best = z.empty() ? C(0) : z[0];
-    for (C x : z)
-        if (key(x) > key(best)) best = x;
-    return result(best, complex);
-}
-template <class T> R min(const std::vector<T>& s, bool complex) { return extreme(s, complex, -1); }
-template <class T> R max(const std::vector<T>& s, bool complex) { return extreme(s, complex, 1); }
-
-// Middle of the sorted samples; complex ones sorted by squared magnitude, then
-// real part, then imaginary part.
-template <class T> R median(const std::vector<T>& s, bool complex) {
-    auto z = samples(s, complex);
-    if (z.empty()) return result(0, complex);
-    std::sort(z.begin(), z.end(), [](C a, C b) {
-        if (norm2(a) != norm2(b)) return norm2(a) < norm2(b);
-        if (a.real() != b.real()) return a.real() < b.real();
-        return a.imag() < b.imag();
-    });
-    const std::size_t m = z.size() / 2;
-    return result(z.size() % 2 ? z[m] : (z[m - 1] + z[m]) / L(2), complex);
-}
-
-template <class T> R magsq_sum(const std::vector<T>& s, bool complex) {
-    L acc = 0;
-    for (C z : samples(s, complex)) acc += norm2(z);
-    return {acc};
-}
-
-template <class T> R rms(const std::vector<T>& s, bool complex) {
-    const std::size_t n = samples(s, complex).size();
-    return {n ? std::sqrt(magsq_sum(s, complex)[0] / L(n)) : L(0)};
-}
-
-// Central moment of order k about the mean (pooled |x - mean|^2 for k = 2).
-// The samples are first taken relative to the first one (exact in long
-// double), so that offsets far above the spread do not limit the reference.
-template <class T> L central(const std::vector<T>& s, bool complex, int k) {
-    const auto z = samples(s, complex);
-    if (z.empty()) return 0;
-    C mu = 0;
-    for (C x : z) mu += x - z[0];
-    mu /= L(z.size());
-    L acc = 0;
-    for (C x : z) {
-        const C d = (x - z[0]) - mu;
-        acc += k == 2 ? norm2(d) : std::pow(d.real(), L(k));
-    }
-    return acc / L(z.size());
-}
-
-template <class T> R pop_var(const std::vector<T>& s, bool complex) { return {central(s, complex, 2)}; }
-template <class T> R samp_var(const std::vector<T>& s, bool complex) {
-    const L n = L(samples(s, complex).size());
-    return {n >= 2 ? central(s, complex, 2) * n / (n - 1) : central(s, complex, 2)};
-}
-template <class T> R pop_stddev(const std::vector<T>& s, bool complex) { return {std::sqrt(pop_var(s, complex)[0])}; }
-template <class T> R samp_stddev(const std::vector<T>& s, bool complex) { return {std::sqrt(samp_var(s, complex)[0])}; }
-
-template <class T> R skew(const std::vector<T>& s, bool) {
-    const L m2 = central(s, false, 2);
-    return {m2 > 0 ? central(s, false, 3) / std::pow(m2, L(1.5)) : L(0)};
-}
-template <class T> R excess(const std::vector<T>& s, bool) {
-    const L m2 = central(s, false, 2);
-    return {m2 > 0 ? central(s, false, 4) / (m2 * m2) - 3 : L(-3)};
-}
-
-// Real: exp of the mean logarithm (positive samples). Complex: the principal
-// n-th root of the product.
-template <class T> R gmean(const std::vector<T>& s, bool complex) {
-    const auto z = samples(s, complex);
-    if (z.empty()) return result(0, complex);
+// The statistic `name` of the samples of s (pairs when complex), at least one;
+// the result's scalars (two when the result is complex). The central moments
+// are taken about the mean of the samples relative to the first one (exact in
+// long double), so that offsets far above the spread do not limit them.
+template <class T> R stat(const std::string& name, const std::vector<T>& s, bool complex) {
+    std::vector<C> z = zt::samples(s, complex);
     const L n = L(z.size());
-    if (!complex) {
-        L logs = 0;
-        for (C x : z) logs += std::log(x.real());
-        return {std::exp(logs / n)};
-    }
-    C p = 1;
-    for (C x : z) p *= x;
-    return result(std::polar(std::pow(std::abs(p), 1 / n), std::arg(p) / n), true);
-}
-
-// n / Σ 1/z.
-template <class T> R hmean(const std::vector<T>& s, bool complex) {
-    const auto z = samples(s, complex);
-    if (z.empty()) return result(0, complex);
-    C acc = 0;
-    for (C x : z) acc += L(1) / x;
-    return result(L(z.size()) / acc, complex);
+    auto out = [&](C r) { return complex ? R{r.real(), r.imag()} : R{r.real()}; };
+    C sum = 0, mu = 0, prod = 1, inv = 0;
+    L power = 0, logs = 0, m2 = 0, m3 = 0, m4 = 0;
+    for (C x : z) sum += x, mu += x - z[0], prod *= x, inv += L(1) / x, power += norm2(x), logs += std::log(std::abs(x));
+    mu /= n;
+    for (C x : z) m2 += norm2(x - z[0] - mu) / n, m3 += std::pow((x - z[0] - mu).real(), L(3)) / n, m4 += std::pow((x - z[0] - mu).real(), L(4)) / n;
+    const L var = m2 * (name.rfind("samp", 0) == 0 && n >= 2 ? n / (n - 1) : 1);  // the sample forms need two samples
+    // Extremes: the first sample of smallest or largest value (squared magnitude when complex).
+    auto key = [&](C x) { return (name == "min" ? -1 : 1) * (complex ? norm2(x) : x.real()); };
+    const C extreme = *std::max_element(z.begin(), z.end(), [&](C a, C b) { return key(a) < key(b); });
+    // Median: complex samples sort by squared magnitude, then real part, then imaginary part.
+    std::sort(z.begin(), z.end(), [](C a, C b) { return std::tuple(norm2(a), a.real(), a.imag()) < std::tuple(norm2(b), b.real(), b.imag()); });
+    const std::size_t h = z.size() / 2;
+    if (name == "sum") return out(sum);
+    if (name == "mean") return out(sum / n);
+    if (name == "min" || name == "max") return out(extreme);
+    if (name == "median") return out(z.size() % 2 ? z[h] : (z[h - 1] + z[h]) / L(2));
+    if (name == "magsq_sum") return {power};
+    if (name == "rms") return {std::sqrt(power / n)};
+    if (name == "pop_var" || name == "samp_var") return {var};
+    if (name == "pop_stddev" || name == "samp_stddev") return {std::sqrt(var)};
+    if (name == "skew") return {m2 > 0 ? m3 / std::pow(m2, L(1.5)) : 0};   // 0 without spread,
+    if (name == "excess") return {m2 > 0 ? m4 / (m2 * m2) - 3 : -3};        // but -3 for the kurtosis
+    // Geometric mean: real, exp of the mean logarithm; complex, the principal n-th root of the product.
+    if (name == "gmean") return out(complex ? std::polar(std::pow(std::abs(prod), 1 / n), std::arg(prod) / n) : C(std::exp(logs / n)));
+    return out(n / inv);   // harmonic mean
 }
 
 }  // namespace zr

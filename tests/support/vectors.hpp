@@ -24,10 +24,7 @@ template <class T> using Traits = zf::Traits<T>;
 template <class T> struct Owned {
     Vec<T> v;
     Owned() { api::init(&v); }
-    explicit Owned(const std::vector<T>& scalars, bool complex = false, T delta = T(1)) {
-        api::init(&v);
-        set(scalars, complex, delta);
-    }
+    explicit Owned(const std::vector<T>& scalars, bool complex = false, T delta = T(1)) : Owned() { set(scalars, complex, delta); }
     ~Owned() { api::destroy(&v); }
     Owned(const Owned&) = delete;
     Owned& operator=(const Owned&) = delete;
@@ -43,10 +40,7 @@ template <class T> struct Owned {
         if (!scalars.empty()) std::memcpy(v.data, scalars.data(), scalars.size() * sizeof(T));
     }
     // The scalars the record holds for its current shape.
-    std::vector<T> scalars() const {
-        const std::size_t n = static_cast<std::size_t>(v.points) * (v.complex ? 2 : 1);
-        return std::vector<T>(v.data, v.data + n);
-    }
+    std::vector<T> scalars() const { return std::vector<T>(v.data, v.data + static_cast<std::size_t>(v.points) * (v.complex ? 2 : 1)); }
 };
 
 // The samples of a scalar list as complex values, pairs when complex.
