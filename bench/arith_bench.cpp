@@ -1,11 +1,10 @@
-// One-input element-wise operations: time per sample of scale, offset, magsq,
-// db, exp and phase, against a streaming copy of the same bytes (the memory
-// bound) and against plain loops calling the C math library (the bound for the
-// operations that call log10, exp or atan2 per sample).
+// One-input element-wise operations that need no math library: time per sample
+// of scale, offset and magsq against a streaming copy of the same bytes (the
+// memory bound). The functions on the vector math kernels (db, exp, phase, mag)
+// have their own table beside the plain C-library loops in vmath_bench.cpp.
 //
-//   zifaif_bench --benchmark_filter='arith|baseline|plain' --benchmark_repetitions=5 \
-//       --benchmark_report_aggregates_only=true --benchmark_format=json > arith.json
-//   tools/bench_table.py arith.json --vs BM_db_real=BM_plain_log10 ...
+//   zifaif_bench --benchmark_filter='arith|baseline' --benchmark_repetitions=5 \
+//       --benchmark_report_aggregates_only=true
 #include <time.h>
 
 #include <cmath>
@@ -14,11 +13,9 @@
 #include "bench/support.hpp"
 #include "elementwise/arith.hpp"
 #include "elementwise/convert.hpp"
-#include "elementwise/logexp.hpp"
 
 namespace {
 
-using zb::restored;
 using zb::set_counters;
 
 constexpr int k1k = 1 << 10, k64k = 1 << 16, k16M = 1 << 24;
@@ -67,49 +64,6 @@ template <class T> void BM_arith_magsq_complex(benchmark::State& state) {
     set_counters<T>(state, n, 3);
 }
 
-template <class T> void BM_arith_db_real(benchmark::State& state) {
-    restored<T>(state, false, 1e-3, 1e3, 2, [](zf::Vec<T>* v) { zf::db<T>(v, T(10)); });
-}
-template <class T> void BM_arith_db_complex(benchmark::State& state) {
-    restored<T>(state, true, -1e3, 1e3, 4, [](zf::Vec<T>* v) { zf::db<T>(v, T(10)); });
-}
-template <class T> void BM_arith_exp(benchmark::State& state) {
-    restored<T>(state, false, -10, 10, 2, [](zf::Vec<T>* v) { zf::exp<T>(v); });
-}
-template <class T> void BM_arith_phase(benchmark::State& state) {
-    restored<T>(state, true, -1, 1, 3, [](zf::Vec<T>* v) { zf::phase<T>(v); });
-}
-
-// The plain loops over the same data, timed the same way.
-template <class T> void BM_plain_log10(benchmark::State& state) {
-    restored<T>(state, false, 1e-3, 1e3, 2, [](zf::Vec<T>* v) {
-        T* d = v->data;
-        for (int i = 0; i < v->points; ++i) d[i] = T(10) * std::log10(d[i]);
-    });
-}
-template <class T> void BM_plain_log10_atan2(benchmark::State& state) {
-    restored<T>(state, true, -1e3, 1e3, 4, [](zf::Vec<T>* v) {
-        T* d = v->data;
-        for (int k = 0; k < v->points; ++k) {
-            const T re = d[2 * k], im = d[2 * k + 1];
-            d[2 * k] = T(5) * std::log10(re * re + im * im);
-            d[2 * k + 1] = T(10) * zf::Traits<T>::log10_e * std::atan2(im, re);
-        }
-    });
-}
-template <class T> void BM_plain_exp(benchmark::State& state) {
-    restored<T>(state, false, -10, 10, 2, [](zf::Vec<T>* v) {
-        T* d = v->data;
-        for (int i = 0; i < v->points; ++i) d[i] = std::exp(d[i]);
-    });
-}
-template <class T> void BM_plain_atan2(benchmark::State& state) {
-    restored<T>(state, true, -1, 1, 3, [](zf::Vec<T>* v) {
-        T* d = v->data;
-        for (int k = 0; k < v->points; ++k) d[k] = std::atan2(d[2 * k + 1], d[2 * k]);
-    });
-}
-
 void sizes(benchmark::internal::Benchmark* b) { b->Arg(k1k)->Arg(k64k)->Arg(k16M); }
 
 BENCHMARK_TEMPLATE(BM_baseline_stream_copy, double)->Apply(sizes);
@@ -120,21 +74,5 @@ BENCHMARK_TEMPLATE(BM_arith_offset, double)->Apply(sizes);
 BENCHMARK_TEMPLATE(BM_arith_offset, float)->Apply(sizes);
 BENCHMARK_TEMPLATE(BM_arith_magsq_complex, double)->Apply(sizes);
 BENCHMARK_TEMPLATE(BM_arith_magsq_complex, float)->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_db_real, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_db_real, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_db_complex, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_db_complex, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_exp, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_exp, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_phase, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_arith_phase, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_log10, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_log10, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_log10_atan2, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_log10_atan2, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_exp, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_exp, float)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_atan2, double)->UseManualTime()->Apply(sizes);
-BENCHMARK_TEMPLATE(BM_plain_atan2, float)->UseManualTime()->Apply(sizes);
 
 }  // namespace

@@ -10,7 +10,7 @@ time per sample of OP divided by that of REF, same type and size.
 When the run had repetitions, the median aggregate is used (else the mean,
 else the single run).
 
-  tools/bench_table.py arith.json --vs BM_arith_exp=BM_plain_exp
+  tools/bench_table.py vmath.json --vs BM_vmath_exp=BM_vmath_plain_exp
 """
 import argparse
 import json
