@@ -42,9 +42,11 @@ template <class T> int release_mixed() noexcept {
     return 0;
 }
 
-// The radices of n in the order the passes run: fours, a two, threes, fives, sevens.
+// The radices of n in the order the passes run: eights, a four, a two, threes,
+// fives, sevens.
 int factorise(int n, int* radix) noexcept {
     int count = 0;
+    while (n % 8 == 0) { radix[count++] = 8; n /= 8; }
     while (n % 4 == 0) { radix[count++] = 4; n /= 4; }
     for (int p : kPrimes) {
         while (n % p == 0) { radix[count++] = p; n /= p; }

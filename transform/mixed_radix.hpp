@@ -1,6 +1,6 @@
 // The mixed-radix DFT of smooth lengths: every length whose prime factors are
 // 2, 3, 5 and 7 runs as a chain of self-sorting (Stockham) passes of radix
-// 4, 2, 3, 5 and 7, natural order in and out, instead of the chirp-z
+// 8, 4, 2, 3, 5 and 7, natural order in and out, instead of the chirp-z
 // convolution. The plan of the last length used (factors and twiddles, the
 // twiddles computed in double by the library's sin/cos and rounded once) and
 // a scratch block, kept apart, form one process-wide cache per precision,
@@ -15,14 +15,14 @@ namespace zf {
 
 constexpr int kMixedMaxPasses = 32;
 
-// One pass of radix p on the n = p·m·s values of the chain: value
+// One pass of radix p (2, 3, 4, 5, 7 or 8) on the n = p·m·s values of the chain: value
 // k + s(j + mq) of the input (q < p) enters butterfly (j, k); its output r,
 // rotated by e^(-j2π·jr/(pm)), goes to k + s(pj + r). s is the product of the
 // radices before.
 template <class T> struct MixedPass {
     int p, m, s;
     const T* tw;   // (p - 1)·m pairs (cos, -sin), pair (r - 1)·m + j for 1 <= r < p, j < m
-    T roots[16];   // odd p: cos 2πk/p at [k], sin 2πk/p at [8 + k], k < p
+    T roots[16];   // cos 2πk/p at [k], sin 2πk/p at [8 + k], k < p (used by odd p)
 };
 
 template <class T> struct MixedPlan {

@@ -45,6 +45,28 @@ inline void butterfly(const T* ar, const T* ai, T* br, T* bi, const T* c, const 
         br[2] = t0r - t2r; bi[2] = t0i - t2i;
         br[1] = t1r + t3i; bi[1] = t1i - t3r;   // t1 - j t3
         br[3] = t1r - t3i; bi[3] = t1i + t3r;   // t1 + j t3
+    } else if constexpr (P == 8) {
+        // Two transforms of four (even and odd inputs) joined by e^(-j2πk/8).
+        const T h = Traits<T>::sqrt_half;
+        T evr[4], evi[4], odr[4], odi[4], er[4], ei[4], orr[4], oi[4];
+        ZF_UNROLL
+        for (int q = 0; q < 4; ++q) {
+            evr[q] = ar[2 * q]; evi[q] = ai[2 * q];
+            odr[q] = ar[2 * q + 1]; odi[q] = ai[2 * q + 1];
+        }
+        butterfly<T, 4>(evr, evi, er, ei, c, sn);
+        butterfly<T, 4>(odr, odi, orr, oi, c, sn);
+        const T o1r = (orr[1] + oi[1]) * h, o1i = (oi[1] - orr[1]) * h;   // e^(-jπ/4) O1
+        const T o2r = oi[2], o2i = -orr[2];                                // -j O2
+        const T o3r = (oi[3] - orr[3]) * h, o3i = -(orr[3] + oi[3]) * h;  // e^(-j3π/4) O3
+        br[0] = er[0] + orr[0]; bi[0] = ei[0] + oi[0];
+        br[4] = er[0] - orr[0]; bi[4] = ei[0] - oi[0];
+        br[1] = er[1] + o1r; bi[1] = ei[1] + o1i;
+        br[5] = er[1] - o1r; bi[5] = ei[1] - o1i;
+        br[2] = er[2] + o2r; bi[2] = ei[2] + o2i;
+        br[6] = er[2] - o2r; bi[6] = ei[2] - o2i;
+        br[3] = er[3] + o3r; bi[3] = ei[3] + o3i;
+        br[7] = er[3] - o3r; bi[7] = ei[3] - o3i;
     } else {
         constexpr int H = P / 2;
         T tr[H + 1], ti[H + 1], ur[H + 1], ui[H + 1];
@@ -76,8 +98,8 @@ inline void butterfly(const T* ar, const T* ai, T* br, T* bi, const T* c, const 
 template <class T, int P> inline void load_roots(const T* roots, T* c, T* sn) noexcept {
     ZF_UNROLL
     for (int k = 0; k < P; ++k) {
-        c[k] = roots[k];
-        sn[k] = roots[8 + k];
+        c[k] = P % 2 ? roots[k] : T(0);
+        sn[k] = P % 2 ? roots[8 + k] : T(0);
     }
 }
 
@@ -115,8 +137,13 @@ void pass(const T* __restrict ir, const T* __restrict ii, T* __restrict or_, T* 
             butterfly<T, P>(ar, ai, br, bi, c, sn);
             ZF_UNROLL
             for (int r = 0; r < P; ++r) {
-                yr[OS * (k + s * r)] = br[r] * wr[r] - bi[r] * wi[r];
-                yi[OS * (k + s * r)] = br[r] * wi[r] + bi[r] * wr[r];
+                if constexpr (OS == 2) {   // the last pass: m = 1, every twiddle is 1
+                    yr[2 * (k + s * r)] = br[r] * f;
+                    yi[2 * (k + s * r)] = bi[r] * f;
+                } else {
+                    yr[k + s * r] = br[r] * wr[r] - bi[r] * wi[r];
+                    yi[k + s * r] = br[r] * wi[r] + bi[r] * wr[r];
+                }
             }
         }
     }
@@ -160,31 +187,35 @@ template <class T, bool First, int OS> PassFn<T> pick(int p) noexcept {
         case 3: return First ? &first_pass<T, 3, OS> : &pass<T, 3, OS>;
         case 4: return First ? &first_pass<T, 4, OS> : &pass<T, 4, OS>;
         case 5: return First ? &first_pass<T, 5, OS> : &pass<T, 5, OS>;
+        case 8: return First ? &first_pass<T, 8, OS> : &pass<T, 8, OS>;
         default: return First ? &first_pass<T, 7, OS> : &pass<T, 7, OS>;
     }
 }
 
 // The chain of passes: the first reads the interleaved pairs of x, the middle
-// ones go back and forth between the two split buffers of the scratch, the
-// last writes the pairs of x and applies f. The inverse kernel is the forward
-// one on the pairs with real and imaginary parts exchanged, on the way in and
-// out. A single pass reads a copy of x.
+// ones go back and forth between split halves, the last writes the pairs of x
+// and applies f. The middle passes use x itself (its pairs already read) and
+// the first half of the scratch, chosen so that the last pass reads the
+// scratch; with an odd number of passes the first writes the second half of
+// the scratch. The inverse kernel is the forward one on the pairs with real
+// and imaginary parts exchanged, on the way in and out. A single pass reads a
+// copy of x.
 template <class T> void run_passes(const MixedPlan<T>& plan, T* x, T* work, bool inverse, T f) noexcept {
     const std::ptrdiff_t n = plan.n;
-    T* buf[2] = {work, work + 2 * n};
+    const int k = plan.passes;
     T* xr = inverse ? x + 1 : x;
     T* xi = inverse ? x : x + 1;
     const T* src_r = xr;
     const T* src_i = xi;
-    if (plan.passes == 1) {
-        std::memcpy(buf[0], x, 2 * static_cast<std::size_t>(n) * sizeof(T));
-        src_r = inverse ? buf[0] + 1 : buf[0];
-        src_i = inverse ? buf[0] : buf[0] + 1;
+    if (k == 1) {
+        std::memcpy(work, x, 2 * static_cast<std::size_t>(n) * sizeof(T));
+        src_r = inverse ? work + 1 : work;
+        src_i = inverse ? work : work + 1;
     }
-    for (int i = 0; i < plan.passes; ++i) {
+    for (int i = 0; i < k; ++i) {
         const MixedPass<T>& ps = plan.pass[i];
-        const bool first = i == 0, last = i == plan.passes - 1;
-        T* dst = buf[i % 2];
+        const bool first = i == 0, last = i == k - 1;
+        T* dst = (k - 2 - i) % 2 == 0 ? work : first ? work + 2 * n : x;
         const PassFn<T> fn = first ? (last ? pick<T, true, 2>(ps.p) : pick<T, true, 1>(ps.p))
                                    : (last ? pick<T, false, 2>(ps.p) : pick<T, false, 1>(ps.p));
         T* dst_r = last ? xr : dst;
