@@ -13,6 +13,7 @@ enum class CacheSlot : int {
     bitrev,              // bit-reversal lists of the FFT
     dct,                 // DCT scratch vector and buffer
     dft,                 // chirp-z DFT state
+    dft_mixed,           // mixed-radix DFT plan and scratch
     filter_scratch,      // scratch vectors shared by the filters and resamplers
     twiddle,             // FFT twiddle tables
     window,              // generated-window cache

@@ -1,5 +1,6 @@
 // DFT of any length and its real forms. Power-of-two lengths go straight to the
-// FFT; every other length N is a chirp-z convolution: with the chirp
+// FFT, lengths with no prime factor above 7 to the mixed-radix passes; every
+// other length N is a chirp-z convolution: with the chirp
 // c[n] = e^(-jπn²/N), X[k] = c[k] · Σ x[n]c[n] · conj(c[k - n]), a circular
 // convolution of length M (the smallest power of two ≥ 2N - 2) done with two
 // FFTs against the cached spectrum of the filter conj(c).
@@ -12,6 +13,7 @@
 #include "core/cache.hpp"
 #include "core/libm.hpp"
 #include "transform/fft.hpp"
+#include "transform/mixed_radix.hpp"
 
 namespace zf {
 namespace {
@@ -176,6 +178,7 @@ template <class T> int dft(Vec<T>* v, int direction) noexcept {
         return 0;
     }
     if (log2_exact(n) >= 0) return fft<T>(v, direction);
+    if (mixed_radix_length(n)) return mixed_dft<T>(v, direction);
     return chirp_dft<T>(v, direction);
 }
 
