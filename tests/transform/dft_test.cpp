@@ -85,7 +85,7 @@ template <class T> void ZF_CDECL count_free(Vec<T>* v) { ++frees<T>, std::free(v
 // goes through the free hook (chirp, filter, DCT staging).
 TYPED_TEST(DftTest, ChirpStateIsReusedAcrossDirectionsAndRebuiltAfterRelease) {
     using T = TypeParam;
-    const std::vector<T> x = random_scalars<T>(200, 21), y = random_scalars<T>(202, 2);
+    const std::vector<T> x = random_scalars<T>(212, 21), y = random_scalars<T>(202, 2);
     Owned<T> first(x, true), inv(x, true), again(x, true), pow2(random_scalars<T>(128, 1), true), other(y, true), after(y, true);
     Owned<T> d(random_scalars<T>(8, 4));  // a power of two: no chirp of its own
     ASSERT_EQ(api::dft(first.get(), 0), 0);
