@@ -92,7 +92,6 @@ TYPED_TEST(FilesTest, RoundTripsThroughEveryFormAndPrecisionInOneStream) {
             got[0].v.type = 77;   // never stored
             for (Owned<T>& g : got) ASSERT_EQ(api::fread(g.get(), s.f), 1);
             EXPECT_EQ(std::tuple(got[0].v.type, api::fread(Owned<T>().get(), s.f)), std::tuple(77, 0));
-            EXPECT_EQ(api::fread(Owned<T>().get(), s.f), 0);  // and stays at the end
             for (Owned<T>& g : got) EXPECT_EQ(shape(g.v), std::tuple(n, complex, T(0.125)));
             EXPECT_EQ(got[0].scalars(), same.scalars());
             EXPECT_EQ(got[3].scalars(), as<T>(other.scalars()));  // float -> double is exact, double -> float rounds once
@@ -126,7 +125,6 @@ TYPED_TEST(FilesTest, BinaryLayoutByteOrdersAndHeaders) {
     Scratch s;
     ASSERT_EQ(api::fwrite(v.get(), s.f), 0);
     EXPECT_EQ(s.contents(), sized(sizeof(T), 2, 0, {0.5, 1.5, -2.25}));
-    EXPECT_EQ(written(v, 0), s.contents());
     for (auto [magic, size_word] : {std::pair{0xEB0440BEu, 1032u}, {0xBE0330EBu ^ 0x100u, 1032u}, {0xBEu, 1032u}, {0xEB0330BEu, 0x0403u}}) {
         Scratch h(binary({magic, size_word, 1, 0}, 8, {1, 2}));
         EXPECT_EQ(api::fread(v.get(), h.f), -1);

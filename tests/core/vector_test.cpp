@@ -199,19 +199,16 @@ std::vector<int> released;
 template <int id, int status> int release() noexcept { return released.push_back(id), status; }
 }  // namespace
 
-// The registry walks caches in their fixed order and stops at the first failure.
+// The registry walks caches in their fixed order and stops at the first
+// failure; each precision has its own.
 TEST(Library, FreeInternalWalksCachesInOrderAndStopsAtFailure) {
     EXPECT_EQ(dsp_free_internal() + dspf_free_internal(), 0);
     using zf::CacheSlot;
     zf::register_cache<float>(CacheSlot::window, release<3, 0>);
     zf::register_cache<float>(CacheSlot::fir_scratch, release<1, 0>);
-    zf::register_cache<float>(CacheSlot::sfir_scratch, release<1, 0>);
-    EXPECT_EQ(dspf_free_internal(), 0);
-    EXPECT_EQ(released, (std::vector<int>{1, 1, 3}));
-    released.clear();
     zf::register_cache<float>(CacheSlot::sfir_scratch, release<2, -1>);
     EXPECT_EQ(dspf_free_internal(), -1);
-    EXPECT_EQ(released, (std::vector<int>{1, 2}));
+    EXPECT_EQ(released, (std::vector<int>{1, 2}));   // the window cache comes later
     for (CacheSlot s : {CacheSlot::window, CacheSlot::fir_scratch, CacheSlot::sfir_scratch}) zf::register_cache<float>(s, nullptr);
     released.clear();
     EXPECT_EQ(dsp_free_internal(), 0);
