@@ -149,7 +149,6 @@ TYPED_TEST(Stats, HandWorkedCases) {
     const Case cases[] = {
         {api::sum, ones, false, {static_cast<T>(total)}},
         {api::sum, pairs, true, {static_cast<T>(total), static_cast<T>(total)}},
-        {api::mean, ones, false, {static_cast<T>(total / n)}},
         {api::sum, {2 * G, 3}, false, {2 * g + 3}, 4},  // the sum is not clamped
         // Parts beyond the guard, or not a number, add the guard instead of their square.
         {api::magsq_sum, {2 * G, -3 * G, nan}, false, {3 * g}, 4},
@@ -171,7 +170,6 @@ TYPED_TEST(Stats, HandWorkedCases) {
         {api::median, {3, 4, -5, 0, 0, 5, 4, 3}, true, {1.5, 4.5}},  // |z|² 25: (-5,0) (0,5) (3,4) (4,3)
         {api::median, {2, 1, 2, -1, 0, 0}, true, {2, -1}},
         {api::gmean, {-2, 8}, false, {0}},
-        {api::gmean, {3, 0, 3}, false, {0}},
         {api::gmean, {x, x}, false, {0}},
         {api::gmean, {x, 0, x, 0}, true, {0, 0}},
         {api::hmean, {1, 0, 4}, false, {0}},
