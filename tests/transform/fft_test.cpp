@@ -1,7 +1,5 @@
 #include "support/vectors.hpp"
 
-#include <limits>
-
 #include "support/api_fft.hpp"
 #include "support/dft_ref.hpp"
 #include "support/records.hpp"
