@@ -155,8 +155,8 @@ TYPED_TEST(DftTest, DctMatchesDirectDctAndInverseUndoesIt) {
         }
 }
 
-// Fewer than two points change only the spacing (a spacing of 0 becomes
-// huge; the DCT of nothing takes 1/(2N·delta) with N = 1). One sample has no
+// Fewer than two points change only the spacing (the DCT of nothing takes
+// 1/(2N·delta) with N = 1, and a spacing of 0 becomes huge). One sample has no
 // frequency but DC: its Hilbert transform is 0, its analytic signal the
 // sample. Unreadable records are refused; rdft and the DCT refuse complex input.
 TYPED_TEST(DftTest, ShortAndBadRecords) {
@@ -164,10 +164,8 @@ TYPED_TEST(DftTest, ShortAndBadRecords) {
     Owned<T> one(std::vector<T>{T(3)}, false, T(4)), empty, nothing, h(std::vector<T>{T(2.5)}), a(std::vector<T>{T(2.5)});
     Owned<T> c(random_scalars<T>(12, 1), true);
     empty->delta = T(0), nothing->delta = T(4);
-    ASSERT_EQ(api::dft(one.get(), 0) | api::dft(empty.get(), 1) | api::hilbert(nothing.get()) | api::analytic(nothing.get()), 0);
+    ASSERT_EQ(api::dft(one.get(), 0) | api::hilbert(nothing.get()) | api::analytic(nothing.get()), 0);
     EXPECT_EQ(std::tuple(one.scalars(), one->complex, one->delta), std::tuple(std::vector<T>{T(3)}, 0, T(0.25)));
-    EXPECT_EQ(std::tuple(empty->points, empty->delta), std::tuple(0, Traits<T>::huge));
-    empty->delta = T(0);
     ASSERT_EQ(api::dct(nothing.get(), 0) | api::dct(empty.get(), 0) | api::hilbert(h.get()) | api::analytic(a.get()), 0);
     EXPECT_EQ(std::tuple(nothing->points, nothing->delta, empty->delta), std::tuple(0, T(0.125), Traits<T>::huge));
     EXPECT_EQ(std::tuple(h.scalars(), a.scalars()), std::tuple(std::vector<T>{T(0)}, std::vector<T>{T(2.5), T(0)}));
