@@ -1,7 +1,5 @@
 // Generators against direct cos/sin over runs of many re-seeded blocks, noise
 // moments, and the status codes.
-#include <cmath>
-
 #include "support/api_handle.hpp"
 #include "support/vectors.hpp"
 

@@ -108,13 +108,6 @@ TYPED_TEST(ResampleTest, BadArgumentsAreRefused) {
     EXPECT_EQ(uneven + api::rsmp(in.get(), out.get(), 1, kern.get(), T(1), hist.get()), -2);
 }
 
-// A sine of f cycles per sample.
-template <class T> static std::vector<T> tone(int n, double f) {
-    std::vector<T> x(n);
-    for (int k = 0; k < n; ++k) x[k] = static_cast<T>(std::sin(2 * M_PI * f * k));
-    return x;
-}
-
 // Ratios split into octaves and a remainder, with the start-up skips worked
 // out by hand: ceil(35 / r) + 19 when the fractional stage runs. Refused
 // set-ups store nothing.
@@ -134,13 +127,16 @@ TYPED_TEST(ResampleTest, ResamplerSetupSplitsTheRatio) {
     }
 }
 
-// The output is the resampled tone: the fitted tone at f times the ratio
-// leaves only the kernels' error; the spacing follows the ratio.
+// The output is the resampled tone (a sine of 0.05 cycles per sample): the
+// fitted tone at 0.05 times the ratio leaves only the kernels' error; the
+// spacing follows the ratio.
 TYPED_TEST(ResampleTest, ResamplerOutputIsTheResampledTone) {
     using T = TypeParam;
+    std::vector<T> tone(6000);
+    for (int k = 0; k < 6000; ++k) tone[k] = static_cast<T>(std::sin(2 * M_PI * 0.05 * k));
     for (double ratio : {0.8, 1.0 / 3, 1.25, 2.5, 5.0}) {
         api::Resampler<T> r(static_cast<T>(ratio));
-        Owned<T> in(tone<T>(6000, 0.05), false, T(0.5)), out;
+        Owned<T> in(tone, false, T(0.5)), out;
         out->points = static_cast<int>(6000 / ratio) + 2;
         ASSERT_EQ(r.run(in.get(), out.get()), 0);
         double amp, snr = snr_db(out.scalars(), 0.05 * ratio, 200, amp);
@@ -174,7 +170,7 @@ TYPED_TEST(ResampleTest, ResamplerStreamingEqualsWhole) {
 // returns -1 and leaks nothing.
 TYPED_TEST(ResampleTest, ResamplerRefusalsAndAllocationFailures) {
     using T = TypeParam;
-    Owned<T> in(tone<T>(300, 0.1)), out, cin(tone<T>(1000, 0.01), true);
+    Owned<T> in(random_scalars<T>(300, 1)), out, cin(random_scalars<T>(1000, 2), true);
     api::Resampler<T> r(T(2.5));
     EXPECT_EQ(api::coef_setup(static_cast<decltype(&r.c)>(nullptr), T(2), 0, nullptr) + r.run(in.get(), out.get(), in.get()) + r.run(nullptr, out.get()), -3);
     out->points = 100;

@@ -63,6 +63,19 @@ inline std::vector<cld> fft(const std::vector<cld>& x, int sign, long double sca
     return out;
 }
 
+// The DCT y[k] = (1/N) sum x[n] cos(pi k (2n + 1)/(2N)): the real part of bin k
+// of the 4N-point sum with x at the odd places. Orthonormal: times 2, y[0] times
+// sqrt(1/2) more.
+template <class T> std::vector<cld> dct(const std::vector<T>& x, bool ortho) {
+    const std::size_t n = x.size();
+    std::vector<cld> z(4 * n);
+    for (std::size_t i = 0; i < n; ++i) z[2 * i + 1] = static_cast<long double>(x[i]);
+    z = dft(z, -1);
+    z.resize(n);
+    for (std::size_t k = 0; k < n; ++k) z[k] = z[k].real() / static_cast<long double>(n) * (!ortho ? 1 : k ? 2 : std::sqrt(2.0L));
+    return z;
+}
+
 // Interleaved (re, im) scalars to complex values, and real scalars to complex.
 template <class T> std::vector<cld> from_pairs(const std::vector<T>& s) { return zt::samples(s, true); }
 template <class T> std::vector<cld> from_reals(const std::vector<T>& s) { return zt::samples(s, false); }

@@ -1,10 +1,6 @@
 #include "support/vectors.hpp"
 
-#include <cstdlib>
-#include <map>
-
 #include "support/api_dft.hpp"
-#include "support/dct_ref.hpp"
 #include "support/dft_ref.hpp"
 #include "support/records.hpp"
 #include "transform/dft.hpp"
@@ -16,27 +12,18 @@ namespace {
 template <class T> class DftTest : public ::testing::Test {};
 TYPED_TEST_SUITE(DftTest, Precisions);
 
-// Random pairs exact in both precisions, and their exact transform in each
-// direction, computed once for both precisions.
-std::vector<float> input(int n) { return random_scalars<float>(2 * static_cast<std::size_t>(n), 7 + n); }
-const std::vector<ref::cld>& exact(int n, int dir) {
-    static std::map<std::pair<int, int>, std::vector<ref::cld>> memo;
-    auto& w = memo[{n, dir}];
-    if (w.empty()) w = dir ? ref::inverse(ref::from_pairs(input(n))) : ref::forward(ref::from_pairs(input(n)));
-    return w;
-}
-
 // Chirp-z lengths (3, 5, 9 use the tightest convolution lengths 4, 8, 16;
 // 4097 = 2^12 + 1 has 2N - 2 exactly a power of two) and power-of-two lengths.
 TYPED_TEST(DftTest, MatchesDirectDftInBothDirections) {
     using T = TypeParam;
     for (int n : {3, 5, 9, 12, 100, 1000, 4097, 2, 8, 64, 1024})
         for (int dir : {0, 1}) {
-            const auto x = input(n);
-            Owned<T> v(std::vector<T>(x.begin(), x.end()), true, T(0.5));
+            const auto x = random_scalars<T>(2 * n, 7 + n);
+            Owned<T> v(x, true, T(0.5));
             ASSERT_EQ(api::dft(v.get(), dir), 0);
             EXPECT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 1));
-            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), exact(n, dir)), ref::dft_bound<T>(n)) << n << " direction " << dir;
+            const auto want = dir ? ref::inverse(ref::from_pairs(x)) : ref::forward(ref::from_pairs(x));
+            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), want), ref::dft_bound<T>(n)) << n << " direction " << dir;
             EXPECT_NEAR(v->delta, 2.0 / n, 2.0 / n * tol<T>());
         }
 }
@@ -64,17 +51,16 @@ TYPED_TEST(DftTest, RealInputRdftAndIrdftMatchComplexTransform) {
     }
 }
 
-// Directions other than 0 and 1: a chirp-z length gives the forward sum without
-// 1/N; a power-of-two length goes to the FFT, which takes it as inverse.
+// Directions other than 0 and 1 at a chirp-z length give the forward sum
+// without 1/N (a power-of-two length passes the direction on to the FFT).
 TYPED_TEST(DftTest, OtherDirectionValues) {
     using T = TypeParam;
-    const std::vector<T> x = random_scalars<T>(24, 9), y = random_scalars<T>(32, 9);
-    Owned<T> a(x, true), b(x, true), c(y, true), d(y, true);
-    ASSERT_EQ(api::dft(a.get(), 0) | api::dft(b.get(), 2) | api::dft(c.get(), 1) | api::dft(d.get(), -3), 0);
+    const std::vector<T> x = random_scalars<T>(24, 9);
+    Owned<T> a(x, true), b(x, true);
+    ASSERT_EQ(api::dft(a.get(), 0) | api::dft(b.get(), 2), 0);
     std::vector<T> scaled = a.scalars();
     for (T& s : scaled) s *= T(12);
     EXPECT_TRUE(near_all(b.scalars(), scaled, tol<T>(64)));
-    EXPECT_EQ(c.scalars(), d.scalars());
 }
 
 template <class T> int frees = 0;
@@ -157,11 +143,10 @@ TYPED_TEST(DftTest, DctMatchesDirectDctAndInverseUndoesIt) {
         for (int flags : {0, 2}) {
             SCOPED_TRACE(::testing::Message() << "n=" << n << " flags=" << flags);
             const std::vector<T> x = random_scalars<T>(n, 40 + n);
-            const auto want = ref::dct(std::vector<long double>(x.begin(), x.end()), flags == 2);
             Owned<T> v(x, false, T(0.5));
             ASSERT_EQ(api::dct(v.get(), flags), 0);
             ASSERT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 0));
-            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), std::vector<ref::cld>(want.begin(), want.end())), ref::dft_bound<T>(n));
+            EXPECT_LE(ref::rms_rel_error(ref::from_reals(v.scalars()), ref::dct(x, flags == 2)), ref::dft_bound<T>(n));
             EXPECT_NEAR(v->delta, 1.0 / n, tol<T>() / n);  // 1/(2N·0.5)
             ASSERT_EQ(api::dct(v.get(), flags | 1), 0);
             ASSERT_EQ(std::tuple(v->points, v->complex), std::tuple(n, 0));
@@ -170,8 +155,8 @@ TYPED_TEST(DftTest, DctMatchesDirectDctAndInverseUndoesIt) {
         }
 }
 
-// Fewer than two points change only the spacing (a spacing of 0 becomes
-// huge; the DCT of nothing takes 1/(2N·delta) with N = 1). One sample has no
+// Fewer than two points change only the spacing (the DCT of nothing takes
+// 1/(2N·delta) with N = 1, and a spacing of 0 becomes huge). One sample has no
 // frequency but DC: its Hilbert transform is 0, its analytic signal the
 // sample. Unreadable records are refused; rdft and the DCT refuse complex input.
 TYPED_TEST(DftTest, ShortAndBadRecords) {
@@ -179,10 +164,8 @@ TYPED_TEST(DftTest, ShortAndBadRecords) {
     Owned<T> one(std::vector<T>{T(3)}, false, T(4)), empty, nothing, h(std::vector<T>{T(2.5)}), a(std::vector<T>{T(2.5)});
     Owned<T> c(random_scalars<T>(12, 1), true);
     empty->delta = T(0), nothing->delta = T(4);
-    ASSERT_EQ(api::dft(one.get(), 0) | api::dft(empty.get(), 1) | api::hilbert(nothing.get()) | api::analytic(nothing.get()), 0);
+    ASSERT_EQ(api::dft(one.get(), 0) | api::hilbert(nothing.get()) | api::analytic(nothing.get()), 0);
     EXPECT_EQ(std::tuple(one.scalars(), one->complex, one->delta), std::tuple(std::vector<T>{T(3)}, 0, T(0.25)));
-    EXPECT_EQ(std::tuple(empty->points, empty->delta), std::tuple(0, Traits<T>::huge));
-    empty->delta = T(0);
     ASSERT_EQ(api::dct(nothing.get(), 0) | api::dct(empty.get(), 0) | api::hilbert(h.get()) | api::analytic(a.get()), 0);
     EXPECT_EQ(std::tuple(nothing->points, nothing->delta, empty->delta), std::tuple(0, T(0.125), Traits<T>::huge));
     EXPECT_EQ(std::tuple(h.scalars(), a.scalars()), std::tuple(std::vector<T>{T(0)}, std::vector<T>{T(2.5), T(0)}));

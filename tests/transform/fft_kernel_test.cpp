@@ -10,17 +10,19 @@ using namespace zt;
 template <class T> class FftKernelTest : public ::testing::Test {};
 TYPED_TEST_SUITE(FftKernelTest, Precisions);
 
-// The kernel chosen for this processor against the portable one, at every
-// length it handles up to 2^14 and on a half-length transform read from a
-// longer table (as the real transforms do).
-TYPED_TEST(FftKernelTest, DispatchedKernelMatchesPortable) {
+// The kernels chosen for this processor against the portable ones: the
+// complex pass at every length it handles up to 2^14, also on a half-length
+// transform read from a longer table (as the real transforms do), and the
+// split and join passes of the real transforms up to 2^13.
+TYPED_TEST(FftKernelTest, DispatchedKernelsMatchPortable) {
     using T = TypeParam;
     const auto vec = zf::vector_dif<T>();
-    if (!vec) GTEST_SKIP() << "no vector kernel on this processor";
+    if (!vec || !zf::vector_split<T>() || !zf::vector_join<T>()) GTEST_SKIP() << "no vector kernel on this processor";
+    const int w = zf::vector_width<T>();
     for (int n = 4; n <= (1 << 14); n *= 2)
         for (int tn : {n, 2 * n}) {
             const T* tw = zf::twiddles<T>(tn);
-            const T* lv = zf::level_twiddles<T>(n, tw, tn, zf::vector_width<T>());
+            const T* lv = zf::level_twiddles<T>(n, tw, tn, w);
             ASSERT_TRUE(tw && lv);
             for (int inverse = 0; inverse < 2; ++inverse) {
                 auto a = random_scalars<T>(2 * n, n + inverse), b = a;
@@ -28,6 +30,14 @@ TYPED_TEST(FftKernelTest, DispatchedKernelMatchesPortable) {
                 vec(b.data(), n, lv, inverse != 0);
                 EXPECT_LE(ref::rms_rel_error(ref::from_pairs(b), ref::from_pairs(a)), 2 * static_cast<double>(Traits<T>::eps) * std::log2(n))
                     << "n = " << n << " table " << tn << (inverse ? " inverse" : " forward");
+            }
+            for (int join = 0; join < 2 && tn == n && n >= 4 * w && n <= (1 << 13); ++join) {
+                auto a = random_scalars<T>(n + 2, n + join), b = a;
+                const auto pass = join ? zf::join_real<T> : zf::split_real<T>;
+                pass(a.data(), n, tw, nullptr);
+                pass(b.data(), n, tw, lv + 2 * (n - 4 * w));
+                a.resize(join ? n : n + 2), b.resize(a.size());
+                EXPECT_TRUE(near_all(b, a, tol<T>(8))) << "n = " << n << (join ? " join" : " split");
             }
         }
 }
@@ -48,26 +58,6 @@ TYPED_TEST(FftKernelTest, ReversalsMatchSwapLists) {
                 if (rev && width == 2) rev(c.data(), bits, scale != 0, f);
                 EXPECT_TRUE((bits < 8 || a == b) && (!rev || width == 1 || a == c)) << "bits " << bits << " width " << width << " scale " << scale;
             }
-}
-
-// The vectorised passes of the real transforms against the portable ones.
-TYPED_TEST(FftKernelTest, VectorRealPassesMatchPortable) {
-    using T = TypeParam;
-    if (!zf::vector_split<T>() || !zf::vector_join<T>()) GTEST_SKIP() << "no vector kernel on this processor";
-    const int w = zf::vector_width<T>();
-    for (int n = 4 * w; n <= (1 << 13); n *= 2) {
-        const T* tw = zf::twiddles<T>(n);
-        const T* levels = zf::level_twiddles<T>(n, tw, n, w);
-        ASSERT_TRUE(tw && levels);
-        for (int join = 0; join < 2; ++join) {
-            auto a = random_scalars<T>(n + 2, n + join), b = a;
-            const auto pass = join ? zf::join_real<T> : zf::split_real<T>;
-            pass(a.data(), n, tw, nullptr);
-            pass(b.data(), n, tw, levels + 2 * (n - 4 * w));
-            a.resize(join ? n : n + 2), b.resize(a.size());
-            EXPECT_TRUE(near_all(b, a, tol<T>(8))) << "n = " << n << (join ? " join" : " split");
-        }
-    }
 }
 
 // Every triple against (cos t, -cos t - sin t, sin t - cos t) computed
