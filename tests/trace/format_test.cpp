@@ -2,7 +2,6 @@
 
 #include "support/api_trace.hpp"
 #include "support/trace_ref.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
 using cld = std::complex<ref::ld>;
