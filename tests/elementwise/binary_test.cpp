@@ -3,7 +3,6 @@
 
 #include "support/api_binary.hpp"
 #include "support/binary_ref.hpp"
-#include "support/records.hpp"
 
 using namespace zt;
 

@@ -2,7 +2,6 @@
 #include "support/api_binary.hpp"
 #include "support/arith_ref.hpp"
 #include "support/binary_ref.hpp"
-#include "support/records.hpp"
 
 using namespace zt;
 
