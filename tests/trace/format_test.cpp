@@ -1,5 +1,3 @@
-#include <complex>
-
 #include "support/api_trace.hpp"
 #include "support/trace_ref.hpp"
 
