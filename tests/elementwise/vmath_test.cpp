@@ -1,7 +1,4 @@
 #include <algorithm>
-#include <cmath>
-#include <limits>
-#include <random>
 
 #include "core/cpu.hpp"
 #include "elementwise/vmath.hpp"

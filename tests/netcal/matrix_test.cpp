@@ -71,7 +71,6 @@ TYPED_TEST(MatrixKernelTest, PivotThresholdAndSingularMatrices) {
     Doubles nan(K::width, std::numeric_limits<double>::quiet_NaN());
     EXPECT_TRUE(K::invert(nan.data(), 1) == 1 && std::isnan(nan[0]));
     // A repeated row, a zero column, a row that is a multiple of another.
-    using K = TypeParam;
     for (int n = 2; n <= 6; ++n) {
         for (int kind = 0; kind < 3; ++kind) {
             Doubles a = random_matrix<K>(n, n, 500 + 10 * n + kind);

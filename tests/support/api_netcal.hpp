@@ -4,8 +4,6 @@
 #pragma once
 #include <zifaif/instrument.h>
 
-#include <vector>
-
 namespace api {
 
 struct ComplexMatrix {

@@ -3,7 +3,7 @@
 #pragma once
 #include <zifaif/instrument.h>
 
-#include "support/api_core.hpp"
+#include "support/vectors.hpp"  // brings the core overloads with the random data helpers
 
 namespace api {
 ZT_TWIN(trace_mul, vfpdbMul, vfpsbMul)

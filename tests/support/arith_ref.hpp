@@ -4,8 +4,6 @@
 // against them.
 #pragma once
 
-#include <cmath>
-#include <complex>
 #include <functional>
 #include <string>
 

@@ -4,12 +4,9 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
-#include <complex>
 #include <cstddef>
-#include <vector>
 
-#include "support/vectors.hpp"
+#include "support/records.hpp"
 
 namespace zt {
 

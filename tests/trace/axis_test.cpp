@@ -2,7 +2,6 @@
 
 #include "support/api_trace.hpp"
 #include "support/trace_ref.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
 
@@ -29,10 +28,10 @@ TYPED_TEST(TraceAxisTest, AxesMatchReferenceCountsAndRefusals) {
     EXPECT_EQ(api::expand_linear(static_cast<T*>(nullptr), 4, T(0), T(1)), 0);
     api::expand_log(static_cast<T*>(nullptr), 3, T(1), T(10));
     // Relative error of the log axis' 10^x grows with |x| (here up to 10); its
-    // ends are exact, as is the linear axis' last point.
+    // ends are exact, as is the linear axis' last point. The log axis descends.
     for (bool log : {false, true}) {
         const int n = log ? 61 : 1001;
-        const T first = log ? T(300e3) : T(1.0e6), last = log ? T(8.5e9) : T(3.5e9);
+        const T first = log ? T(8.5e9) : T(1.0e6), last = log ? T(300e3) : T(3.5e9);
         std::vector<T> d(n);
         std::vector<ref::ld> want(n);
         log ? api::expand_log(d.data(), n, first, last) : void(api::expand_linear(d.data(), n, first, last));
@@ -41,8 +40,4 @@ TYPED_TEST(TraceAxisTest, AxesMatchReferenceCountsAndRefusals) {
         EXPECT_TRUE(near_all(d, want, (log ? 10 * std::log(10.0) : 1) * tol<T>(2))) << log;
         EXPECT_EQ(std::tuple(d.front(), d.back()), std::tuple(first, last)) << log;
     }
-    // Descending decades.
-    std::vector<T> dec(5);
-    api::expand_log(dec.data(), 5, T(1e4), T(1));
-    EXPECT_TRUE(near_all(dec, std::vector<double>{1e4, 1e3, 1e2, 1e1, 1}, tol<T>(40)));
 }

@@ -1,7 +1,6 @@
 #include <cstdint>
 
 #include "support/api_trace.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
 

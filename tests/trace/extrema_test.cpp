@@ -1,6 +1,5 @@
 #include "support/api_trace.hpp"
 #include "support/trace_ref.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
 

