@@ -1,10 +1,11 @@
 // DFT of lengths that are not powers of two: time per forward transform of
 // smooth lengths (1000, 100000: mixed-radix passes) and of a prime length
-// (4097: chirp-z), each through the C entry point of its precision. When FFTW is installed the same run times its in-place complex
-// forward transform of the same length (planned with FFTW_MEASURE before any
-// timing) for as many iterations, and reports its time per transform
-// (peer_us) and the ratio ours / FFTW. Both loops reload the input before
-// each transform, and both are timed in thread CPU time.
+// (4097: chirp-z), each through the C entry point of its precision. When FFTW
+// is installed the same run times its in-place complex forward transform of
+// the same length (planned with FFTW_MEASURE before any timing) for as many
+// iterations, and reports its time per transform (peer_us) and the ratio
+// ours / FFTW. Both loops reload the input before each transform, and both
+// are timed in thread CPU time.
 #include "bench/fft_peer.hpp"
 #include "bench/support.hpp"
 

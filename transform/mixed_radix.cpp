@@ -119,11 +119,8 @@ template <class T> MixedRunFn<T> choose() noexcept {
 }  // namespace
 
 bool mixed_radix_length(int n) noexcept {
-    if (n < 2) return false;
-    for (int p : kPrimes) {
-        while (n % p == 0) n /= p;
-    }
-    return n == 1;
+    int radix[kMixedMaxPasses];
+    return n >= 2 && factorise(n, radix) > 0;
 }
 
 template <class T> const MixedPlan<T>* mixed_plan(int n) noexcept {
