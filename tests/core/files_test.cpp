@@ -1,8 +1,6 @@
 #include "support/vectors.hpp"
 
-#include <cstdint>
 #include <string>
-#include <type_traits>
 
 #ifndef _WIN32
 #include <unistd.h>

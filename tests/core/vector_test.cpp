@@ -1,7 +1,6 @@
 #include "support/vectors.hpp"
 
 #include <climits>
-#include <cstdint>
 
 #include "core/cache.hpp"
 #include "support/records.hpp"
@@ -26,19 +25,17 @@ TYPED_TEST(VectorTest, StorageGrowsOnlyAlignedAndKeepsRawScalars) {
 #else
     auto aligned = [](const void* p) { return reinterpret_cast<std::uintptr_t>(p) % 64 == 0; };
 #endif
-    Owned<T> o, r({1, 2, 3});
+    Owned<T> o;
     EXPECT_EQ(api::alloc(o.get()), 0);
     EXPECT_EQ(o.v.data, nullptr);   // zero scalars need no storage
     o.v.points = 5, o.v.complex = 1;
     ASSERT_EQ(api::alloc(o.get()), 0);
     T* block = o.v.data;
+    EXPECT_TRUE(aligned(block));
     o.v.points = 3, o.v.complex = 0;
     ASSERT_EQ(api::alloc(o.get()), 0);
     EXPECT_EQ(std::tuple(o.v.alloc, o.v.data), std::tuple(10, block));
-    r.v.complex = 1;
-    ASSERT_EQ(api::realloc(r.get(), 3, 0), 0);
-    EXPECT_GE(r.v.alloc, 6);
-    EXPECT_EQ(first(r.v, 3), (std::vector<T>{1, 2, 3}));
+    // Growth from nothing up to blocks the C library maps on their own.
     Owned<T> v;
     for (int n : {1, 3, 100, 1000, 70000, 300000}) {
         const int old = v.v.points;
@@ -47,10 +44,6 @@ TYPED_TEST(VectorTest, StorageGrowsOnlyAlignedAndKeepsRawScalars) {
         EXPECT_TRUE(aligned(v.v.data)) << n;
         for (int i = old; i < n; ++i) v.v.data[i] = static_cast<T>(i % 251);
         for (int i = 0; i < n; ++i) ASSERT_EQ(v.v.data[i], static_cast<T>(i % 251)) << n;
-        Owned<T> w;
-        w.v.points = n + 4;
-        ASSERT_EQ(api::alloc(w.get()), 0);
-        EXPECT_TRUE(aligned(w.v.data)) << n;
     }
 }
 

@@ -6,7 +6,6 @@
 #include "core/files.hpp"
 
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
