@@ -181,7 +181,7 @@ TEST(Library, VersionInitFloatingPointControlAndRefusedArguments) {
     dsp_vector v = borrow<double>(nullptr, 0), out = v;
     int r;
     EXPECT_EQ(dsp_copy(nullptr, &v) + dsp_copy(&v, nullptr) + dsp_append(&v, nullptr) + dsp_cmp(&v, &v, 0.0, nullptr) +
-              dsp_cmp(nullptr, &v, 0.0, &r) + dspf_alloc(nullptr), -6);
+              dsp_cmp(nullptr, &v, 0.0, &r) + dspf_alloc(nullptr) + dspf_init(nullptr) + dsp_destroy(nullptr), -8);
     v.points = 3;   // samples but no data
     EXPECT_EQ(dsp_copy(&out, &v), -1);
 }
