@@ -1,7 +1,6 @@
 #include "support/vectors.hpp"
 
 #include <climits>
-#include <cstdint>
 
 #include "core/cache.hpp"
 #include "support/records.hpp"
@@ -26,19 +25,17 @@ TYPED_TEST(VectorTest, StorageGrowsOnlyAlignedAndKeepsRawScalars) {
 #else
     auto aligned = [](const void* p) { return reinterpret_cast<std::uintptr_t>(p) % 64 == 0; };
 #endif
-    Owned<T> o, r({1, 2, 3});
+    Owned<T> o;
     EXPECT_EQ(api::alloc(o.get()), 0);
     EXPECT_EQ(o.v.data, nullptr);   // zero scalars need no storage
     o.v.points = 5, o.v.complex = 1;
     ASSERT_EQ(api::alloc(o.get()), 0);
     T* block = o.v.data;
+    EXPECT_TRUE(aligned(block));
     o.v.points = 3, o.v.complex = 0;
     ASSERT_EQ(api::alloc(o.get()), 0);
     EXPECT_EQ(std::tuple(o.v.alloc, o.v.data), std::tuple(10, block));
-    r.v.complex = 1;
-    ASSERT_EQ(api::realloc(r.get(), 3, 0), 0);
-    EXPECT_GE(r.v.alloc, 6);
-    EXPECT_EQ(first(r.v, 3), (std::vector<T>{1, 2, 3}));
+    // Growth from nothing up to blocks the C library maps on their own.
     Owned<T> v;
     for (int n : {1, 3, 100, 1000, 70000, 300000}) {
         const int old = v.v.points;
@@ -47,10 +44,6 @@ TYPED_TEST(VectorTest, StorageGrowsOnlyAlignedAndKeepsRawScalars) {
         EXPECT_TRUE(aligned(v.v.data)) << n;
         for (int i = old; i < n; ++i) v.v.data[i] = static_cast<T>(i % 251);
         for (int i = 0; i < n; ++i) ASSERT_EQ(v.v.data[i], static_cast<T>(i % 251)) << n;
-        Owned<T> w;
-        w.v.points = n + 4;
-        ASSERT_EQ(api::alloc(w.get()), 0);
-        EXPECT_TRUE(aligned(w.v.data)) << n;
     }
 }
 
@@ -177,11 +170,10 @@ TYPED_TEST(VectorTest, HooksSeeEveryBlockAndFailuresLeakNothing) {
 }
 
 TEST(Library, VersionInitFloatingPointControlAndRefusedArguments) {
-    EXPECT_EQ(std::tuple(dsp_version(), dspf_version(), dsp_lib_init(), dspf_lib_init()), std::tuple(205, 205, 0, 0));
-    EXPECT_EQ(get_fpscr(), 0);
-    EXPECT_EQ(set_fpscr(0x00C00000), 0);
+    // The floating-point control functions are stubs: nothing to set, a status word of 0.
     set_runfast();
-    EXPECT_EQ(get_fpscr(), 0);
+    EXPECT_EQ(std::tuple(dsp_version(), dspf_version(), dsp_lib_init(), dspf_lib_init(), set_fpscr(0x00C00000), get_fpscr()),
+              std::tuple(205, 205, 0, 0, 0, 0));
     Owned<float> a({1, 2}), b;
     EXPECT_EQ(dspfu_tof(a.get(), a.get()), -1);   // the float copy refuses one record as both
     ASSERT_EQ(dspfu_tof(a.get(), b.get()), 0);
@@ -189,7 +181,7 @@ TEST(Library, VersionInitFloatingPointControlAndRefusedArguments) {
     dsp_vector v = borrow<double>(nullptr, 0), out = v;
     int r;
     EXPECT_EQ(dsp_copy(nullptr, &v) + dsp_copy(&v, nullptr) + dsp_append(&v, nullptr) + dsp_cmp(&v, &v, 0.0, nullptr) +
-              dsp_cmp(nullptr, &v, 0.0, &r) + dspf_alloc(nullptr), -6);
+              dsp_cmp(nullptr, &v, 0.0, &r) + dspf_alloc(nullptr) + dspf_init(nullptr) + dsp_destroy(nullptr), -8);
     v.points = 3;   // samples but no data
     EXPECT_EQ(dsp_copy(&out, &v), -1);
 }
@@ -209,8 +201,8 @@ TEST(Library, FreeInternalWalksCachesInOrderAndStopsAtFailure) {
     zf::register_cache<float>(CacheSlot::sfir_scratch, release<2, -1>);
     EXPECT_EQ(dspf_free_internal(), -1);
     EXPECT_EQ(released, (std::vector<int>{1, 2}));   // the window cache comes later
-    for (CacheSlot s : {CacheSlot::window, CacheSlot::fir_scratch, CacheSlot::sfir_scratch}) zf::register_cache<float>(s, nullptr);
     released.clear();
-    EXPECT_EQ(dsp_free_internal(), 0);
+    EXPECT_EQ(dsp_free_internal(), 0);   // while they are registered: the double registry holds none of them
     EXPECT_TRUE(released.empty());
+    for (CacheSlot s : {CacheSlot::window, CacheSlot::fir_scratch, CacheSlot::sfir_scratch}) zf::register_cache<float>(s, nullptr);
 }

@@ -1,27 +1,18 @@
-// Shared pieces of the fuzz harnesses: the vector-file entry points of both
-// precisions under one name, memory streams, and the round trip every vector
-// the reader returns must survive.
+// Shared pieces of the fuzz harnesses, over the reader and writer templates of
+// the core (the harnesses link the core sources alone, without the C entry
+// points): memory streams, and the round trip every vector the reader returns
+// must survive.
 #pragma once
 
 #include "core/files.hpp"
 
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <string>
-#include <type_traits>
 
 namespace fz {
-
-// The reader and writer templates of the core under one name per precision
-// (the harnesses link the core sources alone, without the C entry points).
-template <class V> using Real = std::remove_pointer_t<decltype(V::data)>;
-template <class V> int init(V* v) { return zf::init<Real<V>>(v); }
-template <class V> int destroy(V* v) { return zf::destroy<Real<V>>(v); }
-template <class V> int read(V* v, FILE* f) { return zf::fread<Real<V>>(v, f); }
-template <class V> int write2(const V* v, FILE* f, int flags) { return zf::fwrite2<Real<V>>(v, f, flags); }
 
 // Stops the run with a message: libFuzzer records the input that got here.
 [[noreturn]] inline void fail(const char* what) { std::fprintf(stderr, "fuzz check failed: %s\n", what), std::abort(); }
@@ -32,12 +23,12 @@ inline FILE* open_bytes(const void* data, std::size_t size) {
 }
 
 // What the writer of this precision makes of v in the given form.
-template <class V> std::string written(const V& v, int flags) {
+template <class T> std::string written(const zf::Vec<T>& v, int flags) {
     char* buf = nullptr;
     std::size_t len = 0;
     FILE* f = open_memstream(&buf, &len);
     if (!f) fail("open_memstream");
-    if (write2(&v, f, flags) != 0) fail("writing a vector the reader returned");
+    if (zf::fwrite2<T>(&v, f, flags) != 0) fail("writing a vector the reader returned");
     std::fclose(f);
     std::string s(buf, len);
     std::free(buf);
@@ -45,9 +36,9 @@ template <class V> std::string written(const V& v, int flags) {
 }
 
 // Reads the first vector of bytes into out: the reader's status.
-template <class V> int read_back(const std::string& bytes, V& out) {
+template <class T> int read_back(const std::string& bytes, zf::Vec<T>& out) {
     FILE* f = open_bytes(bytes.data(), bytes.size());
-    const int r = read(&out, f);
+    const int r = zf::fread<T>(&out, f);
     std::fclose(f);
     return r;
 }
@@ -56,8 +47,7 @@ template <class V> int read_back(const std::string& bytes, V& out) {
 // digits the ASCII form keeps (a NaN reads back as a NaN, an infinity as
 // itself; sixteen digits of a value within one part in 1e16 of the largest
 // double print above it, and that text reads as an infinity).
-template <class V> bool same(const V& a, const V& b, bool exact) {
-    using T = Real<V>;
+template <class T> bool same(const zf::Vec<T>& a, const zf::Vec<T>& b, bool exact) {
     const double rel = sizeof(T) == 8 ? 1e-15 : 1e-6, tiny = std::numeric_limits<T>::min(), top = std::numeric_limits<T>::max();
     auto eq = [&](double x, double y) {
         if (std::isnan(x) || std::isnan(y)) return std::isnan(x) && std::isnan(y);
@@ -74,29 +64,29 @@ template <class V> bool same(const V& a, const V& b, bool exact) {
 
 // Writes v in the binary and in the ASCII form and reads each back: the binary
 // copy must be identical, the ASCII copy equal to its printed digits.
-template <class V> void round_trip(const V& v) {
-    V back;
-    init(&back);
-    if (read_back(written(v, 0), back) != 1 || !same(v, back, true)) fail("binary form does not read back equal");
-    if (read_back(written(v, 1), back) != 1 || !same(v, back, false)) fail("ASCII form does not read back equal");
-    destroy(&back);
+template <class T> void round_trip(const zf::Vec<T>& v) {
+    zf::Vec<T> back;
+    zf::init<T>(&back);
+    if (read_back<T>(written<T>(v, 0), back) != 1 || !same<T>(v, back, true)) fail("binary form does not read back equal");
+    if (read_back<T>(written<T>(v, 1), back) != 1 || !same<T>(v, back, false)) fail("ASCII form does not read back equal");
+    zf::destroy<T>(&back);
 }
 
 // Reads vectors from bytes until the reader reports 0 or -1 (at most `limit`),
 // sending each one it returned, whole or partial, through the round trip.
-template <class V> void read_all(const void* data, std::size_t size, int limit) {
+template <class T> void read_all(const void* data, std::size_t size, int limit) {
     FILE* f = open_bytes(data, size);
     if (!f) return;
-    V v;
-    init(&v);
+    zf::Vec<T> v;
+    zf::init<T>(&v);
     for (int k = 0; k < limit; ++k) {
-        const int r = read(&v, f);
+        const int r = zf::fread<T>(&v, f);
         if (r != 1 && r != 0 && r != -1) fail("reader status outside 1, 0, -1");
         if (r == 0 && v.points != 0) fail("a clean end of stream left samples");
-        if (r != 0) round_trip(v);
+        if (r != 0) round_trip<T>(v);
         if (r != 1) break;
     }
-    destroy(&v);
+    zf::destroy<T>(&v);
     std::fclose(f);
 }
 

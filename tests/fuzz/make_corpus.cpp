@@ -31,25 +31,25 @@ std::string older(const std::string& s, int size) {
     return std::string(reinterpret_cast<const char*>(&magic), 4) + s.substr(8);
 }
 
-template <class V, class T> void vectors(const char* tag) {
+template <class T> void vectors(const char* tag) {
     const T special[] = {T(0.5), T(-0.0), T(1e-3), T(3.25e7), T(1) / T(3), T(-2.5e-40), INFINITY, NAN};
     for (int complex = 0; complex < 2; ++complex) {
-        V v;
-        fz::init(&v);
+        zf::Vec<T> v;
+        zf::init<T>(&v);
         v.points = 4, v.complex = complex, v.delta = T(0.125);
         v.data = const_cast<T*>(special);  // wraps the array; alloc stays 0
-        const std::string name = "read/" + std::string(tag) + (complex ? "_complex" : "_real"), bin = fz::written(v, 0);
+        const std::string name = "read/" + std::string(tag) + (complex ? "_complex" : "_real"), bin = fz::written<T>(v, 0);
         save(name + ".bin", bin);
         save(name + "_swapped.bin", swapped(bin, sizeof(T)));
         save(name + "_older.bin", older(bin, sizeof(T)));
         save(name + "_older_swapped.bin", swapped(older(bin, sizeof(T)), sizeof(T)));
-        save(name + ".txt", fz::written(v, 1));
-        save(name + "_stream", bin + fz::written(v, 1) + swapped(bin, sizeof(T)));
+        save(name + ".txt", fz::written<T>(v, 1));
+        save(name + "_stream", bin + fz::written<T>(v, 1) + swapped(bin, sizeof(T)));
         v.points = 8 / (complex + 1);
-        save("number" + name.substr(4) + "_body.txt", fz::written(v, 0x101));  // the samples without header
+        save("number" + name.substr(4) + "_body.txt", fz::written<T>(v, 0x101));  // the samples without header
         v.points = 0;
-        save(name + "_empty.bin", fz::written(v, 0));
-        save(name + "_empty.txt", fz::written(v, 1));
+        save(name + "_empty.bin", fz::written<T>(v, 0));
+        save(name + "_empty.txt", fz::written<T>(v, 1));
     }
 }
 
@@ -58,8 +58,8 @@ template <class V, class T> void vectors(const char* tag) {
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
     dir = argv[1];
-    vectors<dsp_vector, double>("double");
-    vectors<dspf_vector, float>("float");
+    vectors<double>("double");
+    vectors<float>("float");
     save("number/plain.txt", "1 -2.5 +3e4 .5 7. 1e-310 0x1F -0x10 0X0\n");
     save("number/separators.txt", "1,2;3\t4\r\n5 ,6 inf -inf nan INFINITY\n");
     save("number/header.txt", "#DSP points = 3\n#DSP complex = 1\n#DSP delta = 0.5\n1 2 3 4 5\n");

@@ -29,16 +29,16 @@ template <class T> bool plain_numbers(const std::string& s, std::vector<T>& out)
     return true;
 }
 
-template <class V, class T> void check(const std::string& text) {
-    fz::read_all<V>(text.data(), text.size(), 16);
+template <class T> void check(const std::string& text) {
+    fz::read_all<T>(text.data(), text.size(), 16);
     std::vector<T> expect;
     if (!plain_numbers<T>(text, expect) || expect.empty()) return;
-    V v;
-    fz::init(&v);
-    if (fz::read_back(text, v) != 1 || v.complex || v.points != static_cast<int>(expect.size()) || v.delta != T(1))
+    zf::Vec<T> v;
+    zf::init<T>(&v);
+    if (fz::read_back<T>(text, v) != 1 || v.complex || v.points != static_cast<int>(expect.size()) || v.delta != T(1))
         fz::fail("plain numbers do not read as one real vector");
     if (std::memcmp(v.data, expect.data(), expect.size() * sizeof(T)) != 0) fz::fail("a plain number reads as another value");
-    fz::destroy(&v);
+    zf::destroy<T>(&v);
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ template <class V, class T> void check(const std::string& text) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     // A leading blank keeps the text away from the binary form's first bytes.
     const std::string text = " " + std::string(reinterpret_cast<const char*>(data), size);
-    check<dsp_vector, double>(text);
-    check<dspf_vector, float>(text);
+    check<double>(text);
+    check<float>(text);
     return 0;
 }

@@ -2,7 +2,6 @@
 // without clamping, the spline equations under the four end conditions, a
 // cubic reproduced by not-a-knot ends, small knot counts, descending
 // abscissae and the refusals.
-#include <algorithm>
 #include <limits>
 
 #include "support/api_interp.hpp"
