@@ -1,6 +1,7 @@
 // Circle fit: exact points on a partial arc, noisy points of a known circle
 // (centre and radius within the noise, the residual its spread) in a range of
-// a longer trace, and the refusals.
+// a longer trace, the least-squares condition on a noisy partial arc, and the
+// refusals.
 #include <zifaif/instrument.h>
 
 #include "support/vectors.hpp"
@@ -36,6 +37,18 @@ TYPED_TEST(CircleFit, ExactAndNoisyPointsAndRefusals) {
     ASSERT_EQ(fit(noisy.data(), 1, n + 1, c, &r, &res), n);
     EXPECT_TRUE(near_all(std::vector<T>{c[0], c[1], r}, std::vector<double>{0.3, -0.2, 0.7}, 4 * a / std::sqrt(3.0 * n)));
     EXPECT_NEAR(res, a / std::sqrt(3.0), 0.1 * a);
+    // On a noisy partial arc the algebraic start is off the least-squares
+    // circle: the result must be where the distances' gradient vanishes.
+    const auto arc = circle<T>(60, 1.0, 1.5, random_scalars<T>(60, 5, -a, a));
+    ASSERT_EQ(fit(arc.data(), 0, 60, c, &r, &res), 60);
+    long double g[3] = {}, f = 0;
+    for (int i = 0; i < 60; ++i) {
+        const long double dx = arc[2 * i] - (long double)c[0], dy = arc[2 * i + 1] - (long double)c[1];
+        const long double rho = std::hypot(dx, dy), d = rho - r;
+        g[0] += d * dx / rho, g[1] += d * dy / rho, g[2] += d, f += d * d;
+    }
+    EXPECT_NEAR(double(res), double(std::sqrt(f / 60)), tol<T>(8) * a);
+    for (long double gk : g) EXPECT_LT(double(std::fabs(gk / 60)), tol<T>(400));
     // Refused with nothing written: a line, coincident points, two points, bad ranges, null arrays.
     const std::vector<T> line{T(0), T(0), T(1), T(2), T(2), T(4), T(3), T(6)}, same(8, T(1));
     c[0] = c[1] = r = T(9);
