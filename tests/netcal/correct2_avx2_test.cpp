@@ -1,16 +1,11 @@
 // The vector two-port kernels (AVX2 and AVX-512) against the portable one,
 // lane by lane, on data that mixes ordinary points with every special case
 // the kernels select on.
-#include <gtest/gtest.h>
-
 #include <array>
-#include <cmath>
-#include <cstring>
 #include <limits>
-#include <random>
-#include <vector>
 
 #include "netcal/correct.hpp"
+#include "support/vectors.hpp"  // brings GoogleTest and the standard headers of the data helpers
 
 namespace {
 
