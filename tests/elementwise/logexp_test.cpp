@@ -22,7 +22,8 @@ TYPED_TEST(LogExpTest, MatchesReferenceAndGuards) {
         {"db20", [](Vec<T>* v) { return api::db(v, T(20)); }, [](LD x) { return ref::db<T>(x, 20); }, nullptr,
          [](CL z) { return 20.0L * std::log(z) / ref::ln10; }, nullptr, -1e-3, 1e-3},
     });
-    // exp saturates just past ln(huge), the limit itself is still computed;
+    // exp saturates just past ln(huge) (the limit itself, computed, is about huge
+    // too: the vector math test holds it to the ulp);
     // decibels and logarithms of zero, negative and tiny values use the floor, the
     // complex origin too, and parts beyond the guard are clamped before squaring.
     // A real value below -huge stops exp10 there: that sample and all later ones
@@ -41,7 +42,4 @@ TYPED_TEST(LogExpTest, MatchesReferenceAndGuards) {
         {api::exp10, {1, 1000, T(below), 2, -3}, false, {10, huge, below, 2, -3}, 4},
         {api::exp10, {T(below), 0, 2, 0}, true, {-huge, 0, 100, 0}, 16}, {api::exp10, {-huge}, false, {0}},
     });
-    Owned<T> v({Traits<T>::exp_limit});
-    ASSERT_EQ(api::exp(v.get()), 0);
-    EXPECT_NEAR(v.scalars()[0] / huge, 1.0, 1e-5);
 }

@@ -13,14 +13,12 @@ using LD = long double;
 // whole domain and on the edges (±0, subnormals, the guards and their
 // neighbours, huge, ±inf, NaN), at a length that leaves a partial vector.
 template <class T> std::vector<const zf::VecMath<T>*> variants() {
+    const zf::VecMath<T> *avx2, *avx512;
+    if constexpr (sizeof(T) == 8) avx2 = &zf::vecmath_avx2_double, avx512 = &zf::vecmath_avx512_double;
+    else avx2 = &zf::vecmath_avx2_float, avx512 = &zf::vecmath_avx512_float;
     std::vector<const zf::VecMath<T>*> out;
-    if constexpr (sizeof(T) == 8) {
-        if (zf::cpu_has_avx2_fma()) out.push_back(&zf::vecmath_avx2_double);
-        if (zf::cpu_has_avx512()) out.push_back(&zf::vecmath_avx512_double);
-    } else {
-        if (zf::cpu_has_avx2_fma()) out.push_back(&zf::vecmath_avx2_float);
-        if (zf::cpu_has_avx512()) out.push_back(&zf::vecmath_avx512_float);
-    }
+    if (zf::cpu_has_avx2_fma()) out.push_back(avx2);
+    if (zf::cpu_has_avx512()) out.push_back(avx512);
     return out;
 }
 

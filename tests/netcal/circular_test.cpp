@@ -5,10 +5,7 @@
 #include <string>
 #include <zifaif/instrument.h>
 
-#include <gtest/gtest.h>
-
-#include <complex>
-#include <vector>
+#include "support/vectors.hpp"  // brings GoogleTest, complex and vector
 
 using C = std::complex<double>;
 

@@ -1,5 +1,5 @@
-// Plain references for the binary operations and the rearrangement, editing
-// and calculus functions: samples as std::complex<long double> (a real record
+// Plain references for the rearrangement, editing and calculus functions and
+// the polynomial product: samples as std::complex<long double> (a real record
 // gives imaginary part 0), loops written straight from the definitions.
 #pragma once
 
@@ -19,38 +19,6 @@ inline bool sort_before(const Cx& a, const Cx& b) {
     return a.imag() < b.imag();
 }
 
-
-// The sample-by-sample operations of the binary family.
-enum class BinOp { add, sub, mul, div, conj_mul, avg_add, min, max };
-
-// Squared magnitude as min and max judge it: a part beyond +-huge makes it huge.
-inline long double judged_norm(const Cx& z, long double huge) {
-    if (std::fabs(z.real()) > huge || std::fabs(z.imag()) > huge) return huge;
-    return std::norm(z);
-}
-
-// One output sample of a binary operation. complex: the output is complex
-// (either input is); w: the averaging weight; huge: the saturation value.
-inline Cx binary_ref(BinOp op, const Cx& a, const Cx& b, bool complex, long double w, long double huge) {
-    switch (op) {
-    case BinOp::add: return a + b;
-    case BinOp::sub: return a - b;
-    case BinOp::mul: return a * b;
-    case BinOp::conj_mul: return a * std::conj(b);
-    case BinOp::avg_add: return b + w * (a - b);
-    case BinOp::div:
-        if (b == Cx(0)) return Cx(a.real() != 0 ? huge : 0, a.imag() != 0 ? huge : 0);
-        return a * std::conj(b) / std::norm(b);
-    case BinOp::min:
-        if (!complex) return b.real() <= a.real() ? b : a;
-        return judged_norm(b, huge) <= judged_norm(a, huge) ? b : a;
-    case BinOp::max:
-        if (!complex) return b.real() >= a.real() ? b : a;
-        return judged_norm(b, huge) >= judged_norm(a, huge) ? b : a;
-    }
-    return Cx(0);
-}
-
 // Full linear convolution of two coefficient lists.
 inline std::vector<Cx> poly_product(const std::vector<Cx>& a, const std::vector<Cx>& b) {
     if (a.empty() || b.empty()) return {};
@@ -59,7 +27,6 @@ inline std::vector<Cx> poly_product(const std::vector<Cx>& a, const std::vector<
         for (std::size_t j = 0; j < b.size(); ++j) out[i + j] += a[i] * b[j];
     return out;
 }
-
 
 // Zero padding to n samples by placement, each old sample multiplied by f:
 // 0 front, 0x100 centre (one further right when n is even and m odd), 0x200

@@ -6,13 +6,6 @@ using namespace zt;
 template <class T> class TraceExtremaTest : public ::testing::Test {};
 TYPED_TEST_SUITE(TraceExtremaTest, Precisions);
 
-// Small integers, so that equal extremes are common.
-template <class T> std::vector<T> coarse_trace(std::size_t n, unsigned seed) {
-    auto v = random_scalars<T>(n, seed, -6.0, 6.0);
-    for (auto& x : v) x = std::floor(x);
-    return v;
-}
-
 // What the random ranges do not reach: empty and reversed ranges, values at
 // the top of the range, null data, negative starts. FindMin never reads
 // data[start], and the band searches never read a start inside the band, so a
@@ -49,7 +42,8 @@ TYPED_TEST(TraceExtremaTest, HandCasesOnEmptyRangesNullDataAndNegativeStarts) {
 
 TYPED_TEST(TraceExtremaTest, SearchesMatchReferenceOnRandomRangesAndBands) {
     using T = TypeParam;
-    const auto data = coarse_trace<T>(64, 3);
+    auto data = random_scalars<T>(64, 3, -6.0, 6.0);
+    for (auto& x : data) x = std::floor(x);  // small integers, so that equal extremes are common
     std::mt19937 gen(17);
     std::uniform_int_distribution<int> pos(0, 63);
     for (int trial = 0; trial < 2000; ++trial) {
