@@ -161,24 +161,28 @@ void last_pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m, 
     pass_from<T, P, 2>(ir, ii, or_, oi, m, s, tw, roots, f, k);
 }
 
-// The plain passes but for the two above.
+// The plain passes but for the two above, when they fill at least one
+// register (shorter runs would only pay for setting up the lanes).
 struct LanePasses {
-    template <class T, bool First, int OS> static PassFn<T> pick(int p) noexcept {
+    template <class T, bool First, int OS> static PassFn<T> pick(const MixedPass<T>& ps) noexcept {
+        constexpr int W = Lanes<T>::W;
         if constexpr (First && OS == 1) {
-            if (p == 8) return &first_pass_lanes<T, 8>;
-            if (p == 4) return &first_pass_lanes<T, 4>;
+            if (ps.p == 8 && ps.m >= W) return &first_pass_lanes<T, 8>;
+            if (ps.p == 4 && ps.m >= W) return &first_pass_lanes<T, 4>;
         }
         if constexpr (!First && OS == 2) {
-            switch (p) {
-                case 2: return &last_pass_lanes<T, 2>;
-                case 3: return &last_pass_lanes<T, 3>;
-                case 4: return &last_pass_lanes<T, 4>;
-                case 5: return &last_pass_lanes<T, 5>;
-                case 7: return &last_pass_lanes<T, 7>;
-                default: return &last_pass_lanes<T, 8>;
+            if (ps.s >= W) {
+                switch (ps.p) {
+                    case 2: return &last_pass_lanes<T, 2>;
+                    case 3: return &last_pass_lanes<T, 3>;
+                    case 4: return &last_pass_lanes<T, 4>;
+                    case 5: return &last_pass_lanes<T, 5>;
+                    case 7: return &last_pass_lanes<T, 7>;
+                    default: return &last_pass_lanes<T, 8>;
+                }
             }
         }
-        return PlainPasses::pick<T, First, OS>(p);
+        return PlainPasses::pick<T, First, OS>(ps);
     }
 };
 

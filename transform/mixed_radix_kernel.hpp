@@ -198,10 +198,10 @@ template <class T> using PassFn = void (*)(const T*, const T*, T*, T*, std::ptrd
 // The plain passes; a build for a wider instruction set may replace some of
 // them (Passes in run_passes).
 struct PlainPasses {
-    template <class T, bool First, int OS> static PassFn<T> pick(int p) noexcept;
+    template <class T, bool First, int OS> static PassFn<T> pick(const MixedPass<T>& ps) noexcept;
 };
-template <class T, bool First, int OS> PassFn<T> PlainPasses::pick(int p) noexcept {
-    switch (p) {
+template <class T, bool First, int OS> PassFn<T> PlainPasses::pick(const MixedPass<T>& ps) noexcept {
+    switch (ps.p) {
         case 2: return First ? &first_pass<T, 2, OS> : &pass<T, 2, OS>;
         case 3: return First ? &first_pass<T, 3, OS> : &pass<T, 3, OS>;
         case 4: return First ? &first_pass<T, 4, OS> : &pass<T, 4, OS>;
@@ -236,10 +236,8 @@ void run_passes(const MixedPlan<T>& plan, T* x, T* work, bool inverse, T f) noex
         const MixedPass<T>& ps = plan.pass[i];
         const bool first = i == 0, last = i == k - 1;
         T* dst = (k - 2 - i) % 2 == 0 ? work : first ? work + 2 * n : x;
-        const PassFn<T> fn = first ? (last ? Passes::template pick<T, true, 2>(ps.p)
-                                           : Passes::template pick<T, true, 1>(ps.p))
-                                   : (last ? Passes::template pick<T, false, 2>(ps.p)
-                                           : Passes::template pick<T, false, 1>(ps.p));
+        const PassFn<T> fn = first ? (last ? Passes::template pick<T, true, 2>(ps) : Passes::template pick<T, true, 1>(ps))
+                                   : (last ? Passes::template pick<T, false, 2>(ps) : Passes::template pick<T, false, 1>(ps));
         T* dst_r = last ? xr : dst;
         T* dst_i = last ? xi : dst + n;
         fn(src_r, src_i, dst_r, dst_i, ps.m, ps.s, ps.tw, ps.roots, last ? f : T(1));
