@@ -2,13 +2,15 @@
 // multiply-add: the same loops as the portable build, vectorised four doubles
 // or eight floats wide. Called only when the processor has both.
 //
-// Two passes are written out with intrinsics, because the compiler's
-// versions scatter single values: the first pass of radix 4 or 8, whose
-// butterfly j writes the p consecutive values p·j + r (it runs W butterflies
-// j side by side, one per lane, and transposes blocks of rows on the way
-// out), and the last pass, which writes interleaved pairs (it runs W
-// consecutive k side by side and interleaves the real and imaginary
-// registers). W is 4 in double and 8 in float.
+// The passes are also written out with intrinsics, W lanes wide (4 in
+// double, 8 in float): the first pass of radix 4 or 8, whose butterfly j
+// writes the p consecutive values p·j + r (it runs W butterflies j side by
+// side, one per lane, and transposes blocks of rows on the way out), where
+// the compiler scatters single values; the middle passes whose s is a
+// multiple of W (W consecutive k side by side, the twiddles of j broadcast),
+// where the compiler's loop pays its set-up for every j; and the last pass of
+// an odd radix, which writes interleaved pairs (W consecutive k side by side,
+// real and imaginary registers interleaved on the way out).
 #include <immintrin.h>
 
 #include "transform/mixed_radix_kernel.hpp"
@@ -22,6 +24,7 @@ template <> struct Lanes<double> {
     using V = __m256d;
     static constexpr int W = 4;
     static V load(const double* p) noexcept { return _mm256_loadu_pd(p); }
+    static void store(double* p, V v) noexcept { _mm256_storeu_pd(p, v); }
     static V set1(double x) noexcept { return _mm256_set1_pd(x); }
     static V mul(V a, V b) noexcept { return _mm256_mul_pd(a, b); }
     static V fmadd(V a, V b, V c) noexcept { return _mm256_fmadd_pd(a, b, c); }
@@ -56,6 +59,7 @@ template <> struct Lanes<float> {
     using V = __m256;
     static constexpr int W = 8;
     static V load(const float* p) noexcept { return _mm256_loadu_ps(p); }
+    static void store(float* p, V v) noexcept { _mm256_storeu_ps(p, v); }
     static V set1(float x) noexcept { return _mm256_set1_ps(x); }
     static V mul(V a, V b) noexcept { return _mm256_mul_ps(a, b); }
     static V fmadd(V a, V b, V c) noexcept { return _mm256_fmadd_ps(a, b, c); }
@@ -161,7 +165,47 @@ void last_pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m, 
     pass_from<T, P, 2>(ir, ii, or_, oi, m, s, tw, roots, f, k);
 }
 
-// The plain passes but for the two above, when they fill at least one
+// A middle pass (OS = 1; f is 1 there) with s a multiple of W.
+template <class T, int P>
+void pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m, std::ptrdiff_t s, const T* tw,
+                const T* roots, T f) noexcept {
+    using L = Lanes<T>;
+    using V = typename L::V;
+    constexpr int W = L::W;
+    V c[P], sn[P];
+    for (int k = 0; k < P; ++k) {
+        c[k] = L::set1(P % 2 ? roots[k] : T(0));
+        sn[k] = L::set1(P % 2 ? roots[8 + k] : T(0));
+    }
+    const std::ptrdiff_t sm = s * m;
+    for (std::ptrdiff_t j = 0; j < m; ++j) {
+        V wr[P], wi[P];
+        for (int r = 1; r < P; ++r) {
+            wr[r] = L::set1(tw[2 * ((r - 1) * m + j)]);
+            wi[r] = L::set1(tw[2 * ((r - 1) * m + j) + 1]);
+        }
+        const T* xr = ir + s * j;
+        const T* xi = ii + s * j;
+        T* yr = or_ + s * P * j;
+        T* yi = oi + s * P * j;
+        for (std::ptrdiff_t k = 0; k < s; k += W) {
+            V ar[P], ai[P], br[P], bi[P];
+            for (int q = 0; q < P; ++q) {
+                ar[q] = L::load(xr + k + sm * q);
+                ai[q] = L::load(xi + k + sm * q);
+            }
+            butterfly<T, P, V>(ar, ai, br, bi, c, sn);
+            L::store(yr + k, br[0]);
+            L::store(yi + k, bi[0]);
+            for (int r = 1; r < P; ++r) {
+                L::store(yr + k + s * r, L::fmsub(br[r], wr[r], L::mul(bi[r], wi[r])));
+                L::store(yi + k + s * r, L::fmadd(br[r], wi[r], L::mul(bi[r], wr[r])));
+            }
+        }
+    }
+}
+
+// The plain passes but for the three above, when they fill at least one
 // register (shorter runs would only pay for setting up the lanes).
 struct LanePasses {
     template <class T, bool First, int OS> static PassFn<T> pick(const MixedPass<T>& ps) noexcept {
@@ -170,17 +214,23 @@ struct LanePasses {
             if (ps.p == 8 && ps.m >= W) return &first_pass_lanes<T, 8>;
             if (ps.p == 4 && ps.m >= W) return &first_pass_lanes<T, 4>;
         }
-        if constexpr (!First && OS == 2) {
-            if (ps.s >= W) {
+        if constexpr (!First && OS == 1) {
+            if (ps.s % W == 0) {
                 switch (ps.p) {
-                    case 2: return &last_pass_lanes<T, 2>;
-                    case 3: return &last_pass_lanes<T, 3>;
-                    case 4: return &last_pass_lanes<T, 4>;
-                    case 5: return &last_pass_lanes<T, 5>;
-                    case 7: return &last_pass_lanes<T, 7>;
-                    default: return &last_pass_lanes<T, 8>;
+                    case 2: return &pass_lanes<T, 2>;
+                    case 3: return &pass_lanes<T, 3>;
+                    case 4: return &pass_lanes<T, 4>;
+                    case 5: return &pass_lanes<T, 5>;
+                    case 7: return &pass_lanes<T, 7>;
+                    default: return &pass_lanes<T, 8>;
                 }
             }
+        }
+        if constexpr (!First && OS == 2) {
+            // Radix 2, 4 or 8 comes last only in powers of two, which the FFT serves.
+            if (ps.s >= W && ps.p == 3) return &last_pass_lanes<T, 3>;
+            if (ps.s >= W && ps.p == 5) return &last_pass_lanes<T, 5>;
+            if (ps.s >= W && ps.p == 7) return &last_pass_lanes<T, 7>;
         }
         return PlainPasses::pick<T, First, OS>(ps);
     }
