@@ -79,11 +79,14 @@ TYPED_TEST(MixedRadixTest, SameResultsAfterAPrimeLengthAndAfterRelease) {
     EXPECT_EQ(after.scalars(), first.scalars());
 }
 
-// The AVX2/FMA passes agree with the portable ones up to rounding.
+// The AVX2/FMA passes agree with the portable ones up to rounding. The
+// lengths run every lane-wise pass, with tails, in both lane widths (4, 8):
+// first passes of radix 8 (240, 1000) and 4 (60), middle passes of radix 2,
+// 3 (240), 4, 7 (1568), 5 (1000) and 8 (1536), last passes of radix 3, 5, 7.
 TYPED_TEST(MixedRadixTest, VectorPassesMatchPortablePasses) {
     using T = TypeParam;
     if (!zf::cpu_has_avx2_fma()) GTEST_SKIP() << "no AVX2/FMA";
-    for (int n : {5, 12, 98, 1000, 1536}) {
+    for (int n : {5, 60, 98, 240, 1000, 1536, 1568}) {
         const zf::MixedPlan<T>* plan = zf::mixed_plan<T>(n);
         ASSERT_NE(plan, nullptr);
         std::vector<T> a = random_scalars<T>(2 * static_cast<std::size_t>(n), n), b = a, work(4 * n);
