@@ -13,5 +13,6 @@ ZT_TWIN(avg, dsph_avg, dspfh_avg)
 // dsph_dft (dft set) or dsph_fft.
 inline int spectrum(bool dft, const dsp_vector* in, dsp_vector* out, int p, double f, int k, int fl) { return dft ? dsph_dft(in, out, k, fl) : dsph_fft(in, out, p, f, k, fl); }
 inline int spectrum(bool dft, const dspf_vector* in, dspf_vector* out, int p, float f, int k, int fl) { return dft ? dspfh_dft(in, out, k, fl) : dspfh_fft(in, out, p, f, k, fl); }
-ZT_TWIN(corr, dsph_corr, dspfh_corr)
+inline int corr(const dsp_vector* a, const dsp_vector* b, dsp_vector* o, dsp_vector* s, int len, int h) { return s ? dsph_corr(a, b, o, s, len, h) : dspb_corr(a, b, o, len, h); }
+inline int corr(const dspf_vector* a, const dspf_vector* b, dspf_vector* o, dspf_vector* s, int len, int h) { return s ? dspfh_corr(a, b, o, s, len, h) : dspfb_corr(a, b, o, len, h); }
 }  // namespace api
