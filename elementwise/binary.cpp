@@ -15,11 +15,11 @@ template <class T> inline T zero_divisor(T x) noexcept { return x == T(0) ? T(0)
 
 // The operations, each as four sample formulas: real/real (rr), complex/complex
 // (cc), complex a with real b (cr) and real a with complex b (rc). Operations
-// marked scalarwise treat a complex/complex pair scalar by scalar with rr.
+// marked scalarwise treat a complex/complex pair scalar by scalar with rr and
+// have no cc.
 template <class T> struct AddOp {
     static constexpr bool scalarwise = true;
     T rr(T a, T b) const noexcept { return a + b; }
-    void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept { re = ar + br; im = ai + bi; }
     void cr(T ar, T ai, T b, T& re, T& im) const noexcept { re = ar + b; im = ai; }
     void rc(T a, T br, T bi, T& re, T& im) const noexcept { re = a + br; im = bi; }
 };
@@ -27,7 +27,6 @@ template <class T> struct AddOp {
 template <class T> struct SubOp {
     static constexpr bool scalarwise = true;
     T rr(T a, T b) const noexcept { return a - b; }
-    void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept { re = ar - br; im = ai - bi; }
     void cr(T ar, T ai, T b, T& re, T& im) const noexcept { re = ar - b; im = ai; }
     void rc(T a, T br, T bi, T& re, T& im) const noexcept { re = a - br; im = -bi; }
 };
@@ -109,7 +108,6 @@ template <class T> struct AvgAddOp {
     static constexpr bool scalarwise = true;
     T w;
     T rr(T a, T b) const noexcept { return b + (a - b) * w; }
-    void cc(T ar, T ai, T br, T bi, T& re, T& im) const noexcept { re = rr(ar, br); im = rr(ai, bi); }
     void cr(T ar, T ai, T b, T& re, T& im) const noexcept { re = rr(ar, b); im = w * ai; }
     void rc(T a, T br, T bi, T& re, T& im) const noexcept { re = rr(a, br); im = bi * (T(1) - w); }
 };
@@ -123,15 +121,15 @@ template <class T, class Op> void run_rr(T* o, const T* x, const T* y, std::size
 }
 
 template <class T, class Op> void run_cc(T* o, const T* x, const T* y, std::size_t n, Op op) noexcept {
-    if (Op::scalarwise) {
+    if constexpr (Op::scalarwise) {
         run_rr(o, x, y, 2 * n, op);
-        return;
-    }
-    for (std::size_t k = 0; k < n; ++k) {
-        T re, im;
-        op.cc(x[2 * k], x[2 * k + 1], y[2 * k], y[2 * k + 1], re, im);
-        o[2 * k] = re;
-        o[2 * k + 1] = im;
+    } else {
+        for (std::size_t k = 0; k < n; ++k) {
+            T re, im;
+            op.cc(x[2 * k], x[2 * k + 1], y[2 * k], y[2 * k + 1], re, im);
+            o[2 * k] = re;
+            o[2 * k + 1] = im;
+        }
     }
 }
 
