@@ -99,8 +99,8 @@ TYPED_TEST(FirFilterTest, HalfResponseExpansionAndFixedSets) {
 }
 
 // Refusals leave the records alone: null records, an input or output that is
-// the history, an output that is the coefficients; every failed allocation
-// returns -1 and leaks nothing.
+// the history, an output that is the coefficients; no coefficients copy the
+// input; every failed allocation returns -1 and leaks nothing.
 TYPED_TEST(FirFilterTest, RefusalsAndAllocationFailures) {
     using T = TypeParam;
     Owned<T> x(random_scalars<T>(300, 1)), h(random_scalars<T>(60, 2)), y, s(random_scalars<T>(59, 3));
@@ -111,6 +111,9 @@ TYPED_TEST(FirFilterTest, RefusalsAndAllocationFailures) {
                   api::sfir(x.get(), y.get(), none, 0, 0, s.get()), api::hwfilt(s.get(), y.get(), 0, s.get())})
         EXPECT_EQ(r, -1);
     EXPECT_EQ(std::tuple(y.v.points, s.v.points), std::tuple(0, 59));
+    Owned<T> no_taps;
+    EXPECT_EQ(api::fir(x.get(), y.get(), no_taps.get(), none), 0);
+    EXPECT_EQ(y.scalars(), x.scalars());
     using Hooks = CountingHooks<T>;
     for (int fail = 1, done = 0; !done; ++fail) {
         ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
