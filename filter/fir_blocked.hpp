@@ -1,8 +1,9 @@
 // The direct-sum kernel on a real response for one instruction set: the
 // portable kernel's sums (taps outer over a block of outputs) with U registers
-// of accumulators. Included only by the instruction-set files, each with its
-// own Ops<T> (register type R, width W, zero, splat, load, store, fma) in an
-// unnamed namespace, so each instance stays inside its file.
+// of accumulators. Included only by the instruction-set files, each with the
+// register operations of its set (register type R, width W, zero, set1, load,
+// store, fma): avx2::Reg<T> of core/avx2.hpp, or an Ops<T> of its own in an
+// unnamed namespace.
 #pragma once
 
 #include <cstddef>
@@ -17,7 +18,7 @@ template <class O, class T, int U> inline void block(const T* x, const T* g, int
     typename O::R acc[U];
     for (int u = 0; u < U; ++u) acc[u] = O::zero();
     for (int j = 0; j < m; ++j) {
-        const typename O::R gj = O::splat(g[j]);
+        const typename O::R gj = O::set1(g[j]);
         const T* xp = x + s * j;
         for (int u = 0; u < U; ++u) acc[u] = O::fma(gj, O::load(xp + u * O::W), acc[u]);
     }

@@ -1,34 +1,10 @@
 // AVX2/FMA registers for the blocked direct-sum kernel of fir_blocked.hpp.
-#include <immintrin.h>
-
+#include "core/avx2.hpp"
 #include "filter/fir_blocked.hpp"
 
 namespace zf {
-namespace {
 
-template <class T> struct Ops;
-template <> struct Ops<double> {
-    using R = __m256d;
-    static constexpr int W = 4;
-    static R zero() noexcept { return _mm256_setzero_pd(); }
-    static R splat(double g) noexcept { return _mm256_set1_pd(g); }
-    static R load(const double* p) noexcept { return _mm256_loadu_pd(p); }
-    static void store(double* p, R v) noexcept { _mm256_storeu_pd(p, v); }
-    static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_pd(a, b, c); }
-};
-template <> struct Ops<float> {
-    using R = __m256;
-    static constexpr int W = 8;
-    static R zero() noexcept { return _mm256_setzero_ps(); }
-    static R splat(float g) noexcept { return _mm256_set1_ps(g); }
-    static R load(const float* p) noexcept { return _mm256_loadu_ps(p); }
-    static void store(float* p, R v) noexcept { _mm256_storeu_ps(p, v); }
-    static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_ps(a, b, c); }
-};
-
-}  // namespace
-
-void conv_avx2(const double* x, const double* g, int m, int s, double* y, std::ptrdiff_t n) noexcept { blocked::conv<Ops<double>>(x, g, m, s, y, n); }
-void conv_avx2(const float* x, const float* g, int m, int s, float* y, std::ptrdiff_t n) noexcept { blocked::conv<Ops<float>>(x, g, m, s, y, n); }
+void conv_avx2(const double* x, const double* g, int m, int s, double* y, std::ptrdiff_t n) noexcept { blocked::conv<avx2::Reg<double>>(x, g, m, s, y, n); }
+void conv_avx2(const float* x, const float* g, int m, int s, float* y, std::ptrdiff_t n) noexcept { blocked::conv<avx2::Reg<float>>(x, g, m, s, y, n); }
 
 }  // namespace zf

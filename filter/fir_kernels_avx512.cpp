@@ -11,7 +11,7 @@ template <> struct Ops<double> {
     using R = __m512d;
     static constexpr int W = 8;
     static R zero() noexcept { return _mm512_setzero_pd(); }
-    static R splat(double g) noexcept { return _mm512_set1_pd(g); }
+    static R set1(double g) noexcept { return _mm512_set1_pd(g); }
     static R load(const double* p) noexcept { return _mm512_loadu_pd(p); }
     static void store(double* p, R v) noexcept { _mm512_storeu_pd(p, v); }
     static R fma(R a, R b, R c) noexcept { return _mm512_fmadd_pd(a, b, c); }
@@ -20,7 +20,7 @@ template <> struct Ops<float> {
     using R = __m512;
     static constexpr int W = 16;
     static R zero() noexcept { return _mm512_setzero_ps(); }
-    static R splat(float g) noexcept { return _mm512_set1_ps(g); }
+    static R set1(float g) noexcept { return _mm512_set1_ps(g); }
     static R load(const float* p) noexcept { return _mm512_loadu_ps(p); }
     static void store(float* p, R v) noexcept { _mm512_storeu_ps(p, v); }
     static R fma(R a, R b, R c) noexcept { return _mm512_fmadd_ps(a, b, c); }

@@ -3,8 +3,7 @@
 // Blocks of up to kLeaf points are unrolled at compile time; larger blocks run
 // one vectorised L-shaped pass and recurse depth first. Same butterflies and
 // rotations by the same table values (cosine and sine taken apart).
-#include <immintrin.h>
-
+#include "core/avx2.hpp"
 #include "transform/fft_kernel.hpp"
 
 namespace zf {
@@ -12,18 +11,10 @@ namespace {
 
 template <class T> struct Ops;
 
-template <> struct Ops<double> {
-    using R = __m256d;
-    static constexpr int W = 2;
-    static R load(const double* p) noexcept { return _mm256_loadu_pd(p); }
-    static void store(double* p, R v) noexcept { _mm256_storeu_pd(p, v); }
-    static R add(R a, R b) noexcept { return _mm256_add_pd(a, b); }
-    static R sub(R a, R b) noexcept { return _mm256_sub_pd(a, b); }
-    static R mul(R a, R b) noexcept { return _mm256_mul_pd(a, b); }
-    static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_pd(a, b, c); }
+template <> struct Ops<double> : avx2::Reg<double> {
+    static constexpr int W = 2;   // complex values per register
     static R fmaddsub(R a, R b, R c) noexcept { return _mm256_fmaddsub_pd(a, b, c); }
     static R fmsubadd(R a, R b, R c) noexcept { return _mm256_fmsubadd_pd(a, b, c); }
-    static R zero() noexcept { return _mm256_setzero_pd(); }
     // (re, im) -> (im, re) in every pair
     static R swap(R v) noexcept { return _mm256_permute_pd(v, 0x5); }
     // j v
@@ -34,24 +25,15 @@ template <> struct Ops<double> {
     // +1 for the first half, -1 for the second
     static R pm() noexcept { return _mm256_setr_pd(1, 1, -1, -1); }
     static R mp() noexcept { return _mm256_setr_pd(-1, -1, 1, 1); }
-    static R set1(double f) noexcept { return _mm256_set1_pd(f); }
     static R conj(R v) noexcept { return _mm256_xor_pd(v, _mm256_setr_pd(0.0, -0.0, 0.0, -0.0)); }
     // the complex values in reverse order
     static R reverse(R v) noexcept { return _mm256_permute2f128_pd(v, v, 0x01); }
 };
 
-template <> struct Ops<float> {
-    using R = __m256;
+template <> struct Ops<float> : avx2::Reg<float> {
     static constexpr int W = 4;
-    static R load(const float* p) noexcept { return _mm256_loadu_ps(p); }
-    static void store(float* p, R v) noexcept { _mm256_storeu_ps(p, v); }
-    static R add(R a, R b) noexcept { return _mm256_add_ps(a, b); }
-    static R sub(R a, R b) noexcept { return _mm256_sub_ps(a, b); }
-    static R mul(R a, R b) noexcept { return _mm256_mul_ps(a, b); }
-    static R fma(R a, R b, R c) noexcept { return _mm256_fmadd_ps(a, b, c); }
     static R fmaddsub(R a, R b, R c) noexcept { return _mm256_fmaddsub_ps(a, b, c); }
     static R fmsubadd(R a, R b, R c) noexcept { return _mm256_fmsubadd_ps(a, b, c); }
-    static R zero() noexcept { return _mm256_setzero_ps(); }
     static R swap(R v) noexcept { return _mm256_permute_ps(v, 0xB1); }
     static R mul_j(R v) noexcept { return _mm256_addsub_ps(_mm256_setzero_ps(), swap(v)); }
     static R low2(R v) noexcept { return _mm256_permute2f128_ps(v, v, 0x00); }
@@ -62,7 +44,6 @@ template <> struct Ops<float> {
     static R pm() noexcept { return _mm256_setr_ps(1, 1, 1, 1, -1, -1, -1, -1); }
     static R mp() noexcept { return _mm256_setr_ps(-1, -1, -1, -1, 1, 1, 1, 1); }
     static R pm1() noexcept { return _mm256_setr_ps(1, 1, -1, -1, 1, 1, -1, -1); }
-    static R set1(float f) noexcept { return _mm256_set1_ps(f); }
     static R conj(R v) noexcept {
         return _mm256_xor_ps(v, _mm256_setr_ps(0.0f, -0.0f, 0.0f, -0.0f, 0.0f, -0.0f, 0.0f, -0.0f));
     }

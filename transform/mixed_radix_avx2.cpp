@@ -11,8 +11,7 @@
 // where the compiler's loop pays its set-up for every j; and the last pass of
 // an odd radix, which writes interleaved pairs (W consecutive k side by side,
 // real and imaginary registers interleaved on the way out).
-#include <immintrin.h>
-
+#include "core/avx2.hpp"
 #include "transform/mixed_radix_kernel.hpp"
 
 namespace zf {
@@ -20,15 +19,8 @@ namespace {
 
 template <class T> struct Lanes;
 
-template <> struct Lanes<double> {
-    using V = __m256d;
-    static constexpr int W = 4;
-    static V load(const double* p) noexcept { return _mm256_loadu_pd(p); }
-    static void store(double* p, V v) noexcept { _mm256_storeu_pd(p, v); }
-    static V set1(double x) noexcept { return _mm256_set1_pd(x); }
-    static V mul(V a, V b) noexcept { return _mm256_mul_pd(a, b); }
-    static V fmadd(V a, V b, V c) noexcept { return _mm256_fmadd_pd(a, b, c); }
-    static V fmsub(V a, V b, V c) noexcept { return _mm256_fmsub_pd(a, b, c); }
+template <> struct Lanes<double> : avx2::Reg<double> {
+    using V = R;
     // The W pairs at p taken apart; the lanes hold the pairs 0 2 1 3.
     static void load_split(const double* p, V& re, V& im) noexcept {
         const V a = _mm256_loadu_pd(p), b = _mm256_loadu_pd(p + 4);
@@ -55,15 +47,8 @@ template <> struct Lanes<double> {
     }
 };
 
-template <> struct Lanes<float> {
-    using V = __m256;
-    static constexpr int W = 8;
-    static V load(const float* p) noexcept { return _mm256_loadu_ps(p); }
-    static void store(float* p, V v) noexcept { _mm256_storeu_ps(p, v); }
-    static V set1(float x) noexcept { return _mm256_set1_ps(x); }
-    static V mul(V a, V b) noexcept { return _mm256_mul_ps(a, b); }
-    static V fmadd(V a, V b, V c) noexcept { return _mm256_fmadd_ps(a, b, c); }
-    static V fmsub(V a, V b, V c) noexcept { return _mm256_fmsub_ps(a, b, c); }
+template <> struct Lanes<float> : avx2::Reg<float> {
+    using V = R;
     // The lanes hold the pairs 0 1 4 5 2 3 6 7.
     static void load_split(const float* p, V& re, V& im) noexcept {
         const V a = _mm256_loadu_ps(p), b = _mm256_loadu_ps(p + 8);
@@ -125,14 +110,24 @@ void first_pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m,
         for (int r = 1; r < P; ++r) {
             V wr, wi;
             L::load_split(tw + 2 * ((r - 1) * m + j), wr, wi);
-            const V yr = L::fmsub(br[r], wr, L::mul(bi[r], wi));
-            bi[r] = L::fmadd(br[r], wi, L::mul(bi[r], wr));
+            const V yr = L::fms(br[r], wr, L::mul(bi[r], wi));
+            bi[r] = L::fma(br[r], wi, L::mul(bi[r], wr));
             br[r] = yr;
         }
         L::template store_columns<P>(or_ + P * j, br);
         L::template store_columns<P>(oi + P * j, bi);
     }
     first_pass_from<T, P, 1>(ir, ii, or_, oi, m, tw, roots, f, j);
+}
+
+// The cosines and sines of the odd radix P, each in every lane (zeros for
+// the even radices, whose butterflies take none).
+template <class T, int P>
+void broadcast_roots(const T* roots, typename Lanes<T>::V* c, typename Lanes<T>::V* sn) noexcept {
+    for (int k = 0; k < P; ++k) {
+        c[k] = Lanes<T>::set1(P % 2 ? roots[k] : T(0));
+        sn[k] = Lanes<T>::set1(P % 2 ? roots[8 + k] : T(0));
+    }
 }
 
 // The last pass (m = 1, no twiddles) into the interleaved pairs times f (the
@@ -146,10 +141,7 @@ void last_pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m, 
     const bool swapped = oi < or_;
     T* y = swapped ? oi : or_;
     V c[P], sn[P];
-    for (int k = 0; k < P; ++k) {
-        c[k] = L::set1(P % 2 ? roots[k] : T(0));
-        sn[k] = L::set1(P % 2 ? roots[8 + k] : T(0));
-    }
+    broadcast_roots<T, P>(roots, c, sn);
     const V vf = L::set1(f);
     std::ptrdiff_t k = 0;
     for (; k + W <= s; k += W) {
@@ -173,10 +165,7 @@ void pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m, std::
     using V = typename L::V;
     constexpr int W = L::W;
     V c[P], sn[P];
-    for (int k = 0; k < P; ++k) {
-        c[k] = L::set1(P % 2 ? roots[k] : T(0));
-        sn[k] = L::set1(P % 2 ? roots[8 + k] : T(0));
-    }
+    broadcast_roots<T, P>(roots, c, sn);
     const std::ptrdiff_t sm = s * m;
     for (std::ptrdiff_t j = 0; j < m; ++j) {
         V wr[P], wi[P];
@@ -198,8 +187,8 @@ void pass_lanes(const T* ir, const T* ii, T* or_, T* oi, std::ptrdiff_t m, std::
             L::store(yr + k, br[0]);
             L::store(yi + k, bi[0]);
             for (int r = 1; r < P; ++r) {
-                L::store(yr + k + s * r, L::fmsub(br[r], wr[r], L::mul(bi[r], wi[r])));
-                L::store(yi + k + s * r, L::fmadd(br[r], wi[r], L::mul(bi[r], wr[r])));
+                L::store(yr + k + s * r, L::fms(br[r], wr[r], L::mul(bi[r], wi[r])));
+                L::store(yi + k + s * r, L::fma(br[r], wi[r], L::mul(bi[r], wr[r])));
             }
         }
     }
