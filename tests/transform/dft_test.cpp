@@ -12,14 +12,15 @@ namespace {
 template <class T> class DftTest : public ::testing::Test {};
 TYPED_TEST_SUITE(DftTest, Precisions);
 
-// Chirp-z lengths (3, 5, 9 use the tightest convolution lengths 4, 8, 16;
-// 4097 = 2^12 + 1 has 2N - 2 exactly a power of two) and power-of-two lengths;
-// a direction other than 0 and 1 gives the forward sum without 1/N, or the
+// Chirp-z lengths (11; 17, 33 and 4097 = 2^12 + 1 have 2N - 2 exactly a power
+// of two, the tightest convolution length), power-of-two lengths and lengths
+// with no prime factor above 7, whose passes combine radices 2 to 8; a
+// direction other than 0 and 1 gives the forward sum without 1/N, or the
 // inverse at a power-of-two length (the FFT's rule).
 TYPED_TEST(DftTest, MatchesDirectDftInEveryDirection) {
     using T = TypeParam;
-    for (int n : {3, 5, 9, 12, 100, 1000, 4097, 2, 8, 64, 1024})
-        for (int dir : {0, 1, 2}) {
+    for (int n : {11, 17, 33, 4097, 2, 8, 64, 1024, 3, 5, 6, 7, 9, 10, 12, 15, 30, 45, 49, 60, 81, 100, 125, 210, 243, 1000, 1536, 3000})
+        for (int dir : {0, 1, 2, -5}) {
             const auto x = random_scalars<T>(2 * n, 7 + n);
             Owned<T> v(x, true, T(0.5));
             ASSERT_EQ(api::dft(v.get(), dir), 0);

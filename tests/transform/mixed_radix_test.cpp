@@ -1,8 +1,7 @@
-// The DFT of lengths with no prime factor above 7, through the C entry
-// points, against the direct DFT.
+// The mixed-radix plans of lengths with no prime factor above 7: their cache
+// and their vector passes (the results themselves are checked against the
+// direct DFT with the other lengths).
 #include "support/vectors.hpp"
-
-#include <map>
 
 #include "core/cpu.hpp"
 #include "support/api_dft.hpp"
@@ -15,51 +14,6 @@ namespace {
 
 template <class T> class MixedRadixTest : public ::testing::Test {};
 TYPED_TEST_SUITE(MixedRadixTest, Precisions);
-
-const int kLengths[] = {6, 7, 10, 12, 15, 30, 45, 49, 60, 81, 100, 125, 210, 243, 1000, 1536, 3000};
-
-// Random pairs exact in both precisions.
-std::vector<float> input(int n) { return random_scalars<float>(2 * static_cast<std::size_t>(n), 11 + n); }
-
-// The direct DFT of input(n) for direction 0 (forward with 1/N), 1 (inverse)
-// and 2 (standing for any other value: the forward sum without 1/N), once.
-const std::vector<ref::cld>& direct(int n, int dir) {
-    static std::map<std::pair<int, int>, std::vector<ref::cld>> memo;
-    auto it = memo.find({n, dir});
-    if (it != memo.end()) return it->second;
-    const auto x = ref::from_pairs(input(n));
-    return memo[{n, dir}] = dir == 0 ? ref::forward(x) : dir == 1 ? ref::inverse(x) : ref::dft(x, -1);
-}
-
-TYPED_TEST(MixedRadixTest, MatchesDirectDftInEveryDirection) {
-    using T = TypeParam;
-    for (int n : kLengths) {
-        const auto xf = input(n);
-        for (int dir : {0, 1, 2, -5}) {
-            SCOPED_TRACE(::testing::Message() << "n=" << n << " direction=" << dir);
-            Owned<T> v(std::vector<T>(xf.begin(), xf.end()), true, T(0.5));
-            ASSERT_EQ(api::dft(v.get(), dir), 0);
-            EXPECT_EQ(v->points, n);
-            EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), direct(n, dir == -5 ? 2 : dir)),
-                      ref::dft_bound<T>(n));
-            EXPECT_NEAR(v->delta, 2.0 / n, 2.0 / n * tol<T>());
-        }
-    }
-}
-
-// Forward then inverse gives the input back; a real input comes back complex.
-TYPED_TEST(MixedRadixTest, InverseOfForwardRestoresTheInput) {
-    using T = TypeParam;
-    for (int n : kLengths) {
-        const auto x = random_scalars<T>(static_cast<std::size_t>(n), 3 + n);
-        Owned<T> v(x, false, T(0.25));
-        ASSERT_EQ(api::dft(v.get(), 0), 0);
-        ASSERT_EQ(api::dft(v.get(), 1), 0);
-        ASSERT_TRUE(v->complex);
-        EXPECT_LE(ref::rms_rel_error(ref::from_pairs(v.scalars()), ref::from_reals(x)), ref::dft_bound<T>(n)) << n;
-        EXPECT_NEAR(v->delta, 0.25, 0.25 * tol<T>());
-    }
-}
 
 // The plan serves one length: a prime length between two calls (chirp-z) or a
 // release of the caches changes nothing in the results; the release rebuilds.
