@@ -64,8 +64,9 @@ TYPED_TEST(RearrangeTest, MatchesReferenceOrder) {
 TYPED_TEST(RearrangeTest, SortSaturationAndNan) {
     using T = TypeParam;
     const T huge = Traits<T>::huge, big = static_cast<T>(std::sqrt(static_cast<double>(huge)) * 10);
-    check_hand<T>({{api::sort, {big, 0, 2 * huge, 0, 1, 1}, true, {1, 1, 2 * huge, 0, big, 0}}});
-    // NaN goes last without harm to the order of the others.
+    const T nan = std::numeric_limits<T>::quiet_NaN();
+    check_hand<T>({{api::sort, {big, 0, 2 * huge, 0, 1, 1}, true, {1, 1, 2 * huge, 0, big, 0}}, {api::sort, {nan, 0, 0, 2, 1, 0}, true, {1, 0, 0, 2, nan, 0}}});
+    // NaN goes last without harm to the order of the others, real or complex.
     std::vector<T> s = random_scalars<T>(200, 5);
     for (std::size_t k = 0; k < s.size(); k += 7) s[k] = std::numeric_limits<T>::quiet_NaN();
     Owned<T> v(s);
