@@ -161,6 +161,18 @@ TYPED_TEST(DftTest, ShortAndBadRecords) {
                    +[](Vec<T>* v) { return api::orecon(v, 0); }, api::recon, api::hilbert, api::analytic, +[](Vec<T>* v) { return api::dct(v, 0); }})
         expect_refuses_unreadable<T>(f);
     EXPECT_EQ(api::rdft(c.get()) + api::dct(c.get(), 0) + api::dct(c.get(), 1), -3);
+    // Every failed allocation of the chirp state (11 points) reports -1 and leaves the record as it was;
+    // where the record's own growth fails, its storage is gone as after any failed growth.
+    const auto x = random_scalars<T>(22, 9);
+    int fail = 1;
+    for (int r = -1; r != 0 && fail < 20; ++fail) {
+        ASSERT_EQ(api::free_internal<Vec<T>>(), 0);
+        Owned<T> p(x, true);
+        typename CountingHooks<T>::Installed hooks(fail);
+        r = api::dft(p.get(), 0);
+        if (r != 0) EXPECT_TRUE(r == -1 && (p->data ? p.scalars() == x : p->alloc == 0)) << fail;
+    }
+    EXPECT_GT(fail, 2);
 }
 
 }  // namespace
